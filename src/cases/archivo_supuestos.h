@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundations/values/almacen.h"
+
+namespace orvemo {
+
+/// `Estado` of a free slot; anything else is a case in use.
+inline constexpr char kRegistroLibre = '*';
+inline constexpr char kRegistroEnUso = ' ';
+
+inline constexpr std::size_t kAnchoNombre = 80;
+/// `Estado`, `NombreSupuesto` and a second name: what the lists of cases read.
+inline constexpr std::size_t kAnchoCabecera = 1 + 2 * kAnchoNombre;
+
+/// Record numbers are 16-bit: no case file passes this many.
+inline constexpr int kMaxRegistros = 32767;
+
+/// One line of a list of cases.
+struct EntradaSupuesto {
+    int registro;        ///< from 1
+    std::string nombre;  ///< trimmed, UTF-8
+};
+
+/// The cases of one calculator: records of one length, numbered from 1, in a file of the application directory.
+/// Nothing stays open between calls. Failures throw FicheroInaccesible; more records than kMaxRegistros throw
+/// DesbordeNumerico. A write that fails puts back what stood there before.
+class ArchivoSupuestos {
+  public:
+    ArchivoSupuestos(Almacen& almacen, std::string nombre, std::size_t longitud);
+
+    [[nodiscard]] const std::string& nombre() const { return nombre_; }
+    [[nodiscard]] std::size_t longitud() const { return longitud_; }
+
+    /// The file's length over the record's, an exact half to even: a partial last record counts past its half.
+    [[nodiscard]] int cuenta() const;
+
+    /// The bytes of record r; those beyond the end of the file are NUL.
+    [[nodiscard]] std::string lee(int r) const;
+
+    /// The cases in use in the order of their records; the bytes past the head aren't read.
+    [[nodiscard]] std::vector<EntradaSupuesto> lista() const;
+
+    /// Writes a whole record, in use, into the first free slot or at the end, and gives its number.
+    int agrega(std::string bytes);
+
+    /// Writes a whole record, in use, over record r (from 1).
+    void sobrescribe(int r, std::string bytes);
+
+    /// Writes over the first record in use whose 80 bytes of `NombreSupuesto` are those of `bytes`; nullopt, and
+    /// nothing written, without one.
+    std::optional<int> sobrescribePorNombre(std::string bytes);
+
+    /// `BorraRegistro`: a head with `Estado` "*" and its names cleared; the rest keeps its contents.
+    void borra(int r);
+
+  private:
+    [[nodiscard]] std::uint64_t posicion(int r) const;
+    [[nodiscard]] int cuenta(FicheroAleatorio& fichero) const;
+    void escribeEntero(FicheroAleatorio& fichero, int r, std::string_view bytes) const;
+
+    Almacen& almacen_;
+    std::string nombre_;
+    std::size_t longitud_;
+};
+
+/// True when `a` stands before `b` in a Spanish alphabetical list: case and accents aside, ñ after n.
+[[nodiscard]] bool OrdenAlfabetico(std::string_view a, std::string_view b);
+
+}  // namespace orvemo

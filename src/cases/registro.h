@@ -1,0 +1,149 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+
+#include "foundations/values/fechas.h"
+#include "foundations/values/textos.h"
+
+namespace orvemo {
+
+static_assert(std::endian::native == std::endian::little, "records are little-endian and copied as they stand");
+
+/// A text of a record: N bytes of Windows-1252, NUL until first written, blank-padded on the right.
+template <std::size_t N>
+class Texto {
+  public:
+    static constexpr std::size_t kAncho = N;
+
+    Texto() = default;
+    explicit Texto(std::string_view utf8) { asigna(utf8); }
+
+    /// Takes a UTF-8 text: what 1252 lacks becomes "?", what does not fit is lost, the rest is blanks.
+    void asigna(std::string_view utf8) {
+        const std::string escrito = A1252(utf8);
+        bytes_.fill(' ');
+        std::copy_n(escrito.begin(), std::min(N, escrito.size()), bytes_.begin());
+    }
+
+    /// The text in UTF-8, up to its first NUL, without the blanks at both ends.
+    [[nodiscard]] std::string utf8() const {
+        const auto fin = std::find(bytes_.begin(), bytes_.end(), '\0');
+        return De1252(Recorta({bytes_.data(), static_cast<std::size_t>(fin - bytes_.begin())}));
+    }
+
+    [[nodiscard]] std::array<char, N>& bytes() { return bytes_; }
+    [[nodiscard]] const std::array<char, N>& bytes() const { return bytes_; }
+    friend bool operator==(const Texto&, const Texto&) = default;
+
+  private:
+    std::array<char, N> bytes_{};
+};
+
+/// How a field of type T lies in a record: its width and the two ways across.
+template <typename T>
+struct EnRegistro {
+    static_assert(std::is_arithmetic_v<T>, "a field of a record is a number, a date, a text or an array of them");
+    static constexpr std::size_t kAncho = sizeof(T);
+    static void lee(const char* origen, T& campo) { std::memcpy(&campo, origen, sizeof(T)); }
+    static void escribe(char* destino, const T& campo) { std::memcpy(destino, &campo, sizeof(T)); }
+};
+
+template <std::size_t N>
+struct EnRegistro<Texto<N>> {
+    static constexpr std::size_t kAncho = N;
+    static void lee(const char* origen, Texto<N>& campo) { std::memcpy(campo.bytes().data(), origen, N); }
+    static void escribe(char* destino, const Texto<N>& campo) { std::memcpy(destino, campo.bytes().data(), N); }
+};
+
+template <>
+struct EnRegistro<Fecha> {
+    static constexpr std::size_t kAncho = sizeof(double);
+    static void lee(const char* origen, Fecha& campo) {
+        double serie = 0;
+        std::memcpy(&serie, origen, sizeof serie);
+        campo = FechaDeSerie(serie);
+    }
+    static void escribe(char* destino, const Fecha& campo) {
+        const double serie = SerieDeFecha(campo);
+        std::memcpy(destino, &serie, sizeof serie);
+    }
+};
+
+template <typename T, std::size_t N>
+struct EnRegistro<std::array<T, N>> {
+    static constexpr std::size_t kAncho = N * EnRegistro<T>::kAncho;
+    static void lee(const char* origen, std::array<T, N>& campo) {
+        for (std::size_t i = 0; i < N; ++i) EnRegistro<T>::lee(origen + i * EnRegistro<T>::kAncho, campo[i]);
+    }
+    static void escribe(char* destino, const std::array<T, N>& campo) {
+        for (std::size_t i = 0; i < N; ++i) EnRegistro<T>::escribe(destino + i * EnRegistro<T>::kAncho, campo[i]);
+    }
+};
+
+/// One line of a layout: at this offset lies this member.
+template <typename Registro, typename T>
+struct Tramo {
+    std::size_t posicion;
+    T Registro::*campo;
+    static constexpr std::size_t kAncho = EnRegistro<T>::kAncho;
+};
+template <typename Registro, typename T>
+Tramo(int, T Registro::*) -> Tramo<Registro, T>;
+
+/// The layout of a record: where each member lies, without gap or overlap.
+template <typename Registro, typename... T>
+class Diseno {
+  public:
+    /// Checked while compiling: each offset is where the field before ends, and the last ends at `longitud`.
+    consteval Diseno(std::size_t longitud, Tramo<Registro, T>... tramos) : longitud_{longitud}, tramos_{tramos...} {
+        std::size_t fin = 0;
+        (
+            [&](const auto& tramo) {
+                if (tramo.posicion != fin) throw "a field of the layout leaves a gap or overlaps the one before";
+                fin += tramo.kAncho;
+            }(tramos),
+            ...);
+        if (fin != longitud) throw "the layout does not cover the length of the record";
+    }
+
+    /// Bytes of a record.
+    [[nodiscard]] constexpr std::size_t longitud() const { return longitud_; }
+
+    /// The record that stands in `bytes`, which holds at least `longitud()`.
+    void lee(std::span<const char> bytes, Registro& registro) const {
+        cada([&]<typename C>(const Tramo<Registro, C>& tramo) {
+            EnRegistro<C>::lee(bytes.data() + tramo.posicion, registro.*tramo.campo);
+        });
+    }
+
+    /// The bytes of the record, `longitud()` of them.
+    [[nodiscard]] std::string escribe(const Registro& registro) const {
+        std::string bytes(longitud_, '\0');
+        cada([&]<typename C>(const Tramo<Registro, C>& tramo) {
+            EnRegistro<C>::escribe(bytes.data() + tramo.posicion, registro.*tramo.campo);
+        });
+        return bytes;
+    }
+
+  private:
+    void cada(auto&& accion) const {
+        std::apply([&](const auto&... tramo) { (accion(tramo), ...); }, tramos_);
+    }
+
+    std::size_t longitud_;
+    std::tuple<Tramo<Registro, T>...> tramos_;
+};
+template <typename Registro, typename... T>
+Diseno(int, Tramo<Registro, T>...) -> Diseno<Registro, T...>;
+
+}  // namespace orvemo

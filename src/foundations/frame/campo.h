@@ -1,0 +1,161 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "foundations/values/comprobaciones.h"
+#include "foundations/values/fechas.h"
+#include "foundations/values/teclas.h"
+
+namespace orvemo {
+
+class Campo;
+class Formulario;
+
+/// What a field is; the renderer has one widget for each.
+enum class Clase {
+    Texto,          ///< one line of text, numbers included
+    FechaSelector,  ///< date picker: never holds anything but a date once left
+    FechaEscrita,   ///< typed date with a drop-down calendar; may be blank or bad
+    Casilla,        ///< check box
+    Lista,          ///< drop-down list
+    ListaAbierta,   ///< list box
+    TextoLargo,     ///< read-only text of several lines; the truth keeps its CR LF
+    Etiqueta,       ///< a note or heading without a value
+    Imagen,         ///< picture of the application directory, its bare name in the text
+    Boton,
+    Veredicto,      ///< the mark Ok or Mal
+};
+
+/// Panels that aren't of the wizard: always on view.
+inline constexpr int kBarra = -1;  ///< bar of the five buttons
+inline constexpr int kPie = -2;    ///< `Anterior` and `Siguiente`
+
+enum class Disposicion {
+    Filas,     ///< label and field, one below the other
+    Tabla,     ///< a grid of `columnas`, headings above, filled row by row
+    Columnas,  ///< label and field pairs run down one column, then the next
+};
+
+/// A frame of fields within a panel, shown and hidden as one.
+struct DefGrupo {
+    std::string nombre{};
+    std::string titulo{};
+    int pantalla{0};
+    Disposicion disposicion{Disposicion::Filas};
+    int columnas{1};
+    std::vector<std::string> encabezados{};
+    bool visible{true};
+};
+
+class Grupo {
+  public:
+    Grupo(Formulario& formulario, DefGrupo def);
+    Grupo(const Grupo&) = delete;
+    Grupo& operator=(const Grupo&) = delete;
+
+    [[nodiscard]] const DefGrupo& def() const { return def_; }
+    [[nodiscard]] bool visible() const { return visible_; }
+    void ponVisible(bool visible);
+    [[nodiscard]] const std::string& titulo() const { return titulo_; }
+    void ponTitulo(std::string titulo);
+
+  private:
+    Formulario& formulario_;
+    DefGrupo def_;
+    bool visible_;
+    std::string titulo_;
+};
+
+using Reaccion = std::function<void(Campo&)>;
+
+/// The declaration of a field, one line each in a calculator's screen.
+struct DefCampo {
+    std::string nombre{};               ///< as told; also its name for tests and accessibility scripts
+    int indice{0};                      ///< place in a control array, 0 when it is no member of one
+    std::string rotulo{};               ///< label, caption of a button or check box
+    Clase clase{Clase::Texto};
+    int pantalla{0};
+    Grupo* grupo{nullptr};
+    std::string defecto{};              ///< text of a new case; a blank date picker takes today's date
+    std::size_t largo{0};               ///< most characters; 0 is no limit
+    FiltroTecla filtro{nullptr};
+    std::string formato{};              ///< pattern of the display while the field hasn't the focus
+    std::vector<std::string> opciones{};
+    Reaccion alSalir{};                 ///< check on leaving
+    Reaccion alCambiar{};               ///< value changed by user or program; off while `Cargando`
+    Reaccion alEscribir{};              ///< the user changed the text
+    Reaccion alPulsar{};                ///< buttons; double click or Enter on an open list
+    bool visible{true};
+    std::string ayuda{};                ///< tip
+    bool mismaLinea{false};             ///< stands on the row of the field before it
+    bool sinComprobacion{false};        ///< buttons that run no leave check: what it would protect is thrown away
+    int anchura{0};                     ///< characters to show; 0 lets the kind decide
+};
+
+/// A field of a form: its declaration and its present state. Every change reaches the renderer.
+class Campo final : public ControlTexto {
+  public:
+    Campo(Formulario& formulario, DefCampo def);
+    Campo(const Campo&) = delete;
+    Campo& operator=(const Campo&) = delete;
+
+    [[nodiscard]] const DefCampo& def() const { return def_; }
+    [[nodiscard]] Formulario& formulario() const { return formulario_; }
+
+    /// What every reading reads ("1234,56"); of a list, the text of the entry chosen.
+    [[nodiscard]] const std::string& texto() const override { return texto_; }
+    void ponTexto(std::string texto) override;
+    /// What the field shows while it hasn't the focus: its text by its pattern ("1.234,56").
+    [[nodiscard]] std::string presentacion() const;
+
+    [[nodiscard]] bool marcado() const { return marcado_; }
+    void ponMarcado(bool marcado);
+
+    /// Entry chosen of a list, from 0; -1 for none.
+    [[nodiscard]] int indice() const { return indice_; }
+    void ponIndice(int indice);
+    [[nodiscard]] const std::vector<std::string>& opciones() const { return opciones_; }
+    /// Refills a list; the index is kept, lowered to the last entry if need be.
+    void ponOpciones(std::vector<std::string> opciones);
+
+    /// Its own switch and that of its group, whichever panel is on view.
+    [[nodiscard]] bool visible() const;
+    void ponVisible(bool visible);
+    [[nodiscard]] bool activo() const { return activo_; }
+    void ponActivo(bool activo);
+    [[nodiscard]] const std::string& rotulo() const { return rotulo_; }
+    void ponRotulo(std::string rotulo);
+    [[nodiscard]] int pantalla() const { return pantalla_; }
+    /// Moves the field to another panel; both are built anew.
+    void ponPantalla(int pantalla);
+
+    /// Back to the declared default: text, mark off, first entry of a list.
+    void ponDefecto();
+    void pideFoco() override;
+
+    /// Whether it can take the focus at all.
+    [[nodiscard]] bool enfocable() const;
+    [[nodiscard]] bool esTexto() const;
+    [[nodiscard]] bool esFecha() const;
+
+  private:
+    friend class Formulario;
+    void refresca() const;
+    void cambiado();
+
+    Formulario& formulario_;
+    DefCampo def_;
+    std::string texto_;
+    std::string fechaValida_;  ///< of a picker: where it goes back to when left unreadable
+    std::vector<std::string> opciones_;
+    std::string rotulo_;
+    int indice_ = -1;
+    int pantalla_;
+    bool marcado_ = false;
+    bool visible_;
+    bool activo_ = true;
+};
+
+}  // namespace orvemo

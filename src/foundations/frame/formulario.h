@@ -1,0 +1,139 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundations/frame/campo.h"
+#include "foundations/frame/entorno.h"
+#include "foundations/frame/vista.h"
+
+namespace orvemo {
+
+/// A screen without a toolkit: panels of fields, declared as data, and the rules of focus, leave checks and
+/// reactions. A renderer shows it and passes the user's doings through the events below; tests call them too.
+///
+/// Fields are declared once, in tab order, by the derived screen's constructor, and live as long as the form.
+class Formulario {
+  public:
+    explicit Formulario(Entorno& entorno);
+    virtual ~Formulario() = default;
+    Formulario(const Formulario&) = delete;
+    Formulario& operator=(const Formulario&) = delete;
+
+    /// Sets the screen up; called by the menu before showing it.
+    virtual void Inicia() = 0;
+    /// The user closes the window: what the bar's last button does.
+    virtual void cierra() { oculta(); }
+
+    // --- What the renderer reads -----------------------------------------------------------------------------
+
+    [[nodiscard]] const std::deque<Campo>& campos() const { return campos_; }
+    [[nodiscard]] std::deque<Campo>& campos() { return campos_; }
+    [[nodiscard]] const std::deque<Grupo>& grupos() const { return grupos_; }
+    /// Heading within the screen.
+    [[nodiscard]] const std::string& Titulo() const { return titulo_; }
+    /// Caption of the window.
+    [[nodiscard]] const std::string& Caption() const { return caption_; }
+    [[nodiscard]] const std::string& Subtitulo() const { return subtitulo_; }
+    [[nodiscard]] int PantallaActual() const { return PantallaActual_; }
+    [[nodiscard]] int numPantallas() const { return numPantallas_; }
+    [[nodiscard]] bool oculto() const { return oculto_; }
+    /// The field that logically has the focus; null before the first.
+    [[nodiscard]] const Campo* actual() const { return actual_; }
+    [[nodiscard]] Campo& campo(std::string_view nombre, int indice = 0);
+    /// On view now: visible and of the panel shown (or of the bar or the foot).
+    [[nodiscard]] bool enPantalla(const Campo& campo) const;
+
+    void ponVista(Vista* vista) { vista_ = vista; }
+
+    // --- Events: what the user does ---------------------------------------------------------------------------
+    // None of them throws: a failure is told in a box and the form stays as it is.
+
+    /// The focus moved to `destino`. The field left is checked first; if it fails, the focus goes back. True when
+    /// `destino` has it now.
+    bool foco(Campo& destino);
+    /// A button was pressed. The field left is checked first (save by buttons that throw its value away); if it
+    /// fails the press is lost. True when the button acted.
+    bool pulsa(Campo& boton);
+    /// The text of a field is now this (typed, pasted or dictated); what the filter refuses is dropped.
+    void escribe(Campo& campo, std::string_view texto);
+    void marca(Campo& campo, bool marcado);
+    void elige(Campo& campo, int indice);
+    /// A day was picked in the calendar of a date field.
+    void eligeFecha(Campo& campo, Fecha fecha);
+    /// Double click or Enter on an open list.
+    void doblePulsa(Campo& campo);
+    /// A key on its way into a text field: the character to insert, 0 to swallow it.
+    [[nodiscard]] char32_t teclea(const Campo& campo, char32_t tecla) const;
+
+  protected:
+    // --- Declaration ------------------------------------------------------------------------------------------
+
+    Campo& nuevo(DefCampo def);
+    Grupo& nuevoGrupo(DefGrupo def);
+    /// Check on leaving: `CompruebaRango` with these limits.
+    [[nodiscard]] Reaccion rango(std::string minimo, std::string maximo);
+    /// Check on leaving: `CompruebaFecha`.
+    [[nodiscard]] Reaccion fechaCorrecta();
+    void ponTitulos(std::string titulo, std::string caption);
+    void ponSubtitulo(std::string subtitulo);
+    void ponNumPantallas(int n) { numPantallas_ = n; }
+
+    // --- State shared with the screens -------------------------------------------------------------------------
+
+    /// Shows a panel and hides the others; focus and calculations are the derived screen's matter.
+    void muestra(int pantalla);
+    /// Moves the focus without checking the field left.
+    void enfoca(Campo& campo);
+    void oculta();
+    /// Runs an operation; a failure is told in a box. False when it failed.
+    bool protegido(const std::function<void()>& accion);
+
+    [[nodiscard]] Entorno& entorno() const { return entorno_; }
+    [[nodiscard]] Mensajes& mensajes() const { return entorno_.mensajes; }
+    [[nodiscard]] Fecha hoy() const { return entorno_.reloj.hoy(); }
+    [[nodiscard]] Vista* vista() const { return vista_; }
+
+    bool Cargando = false;  ///< the program itself is setting fields: reactions are off
+    bool DatoMal = false;   ///< a check has failed and the focus is being taken back
+
+  private:
+    friend class Campo;
+    friend class Grupo;
+
+    [[nodiscard]] bool dejaActual();
+    void entra(Campo& campo);
+    void asientaFecha(Campo& campo);
+    void reacciona(Campo& campo);
+    void compruebaPantallaDe(const Campo& campo);
+
+    Entorno& entorno_;
+    Vista* vista_ = nullptr;
+    std::deque<Campo> campos_;
+    std::deque<Grupo> grupos_;
+    std::string titulo_, caption_, subtitulo_;
+    int PantallaActual_ = 0;
+    int numPantallas_ = 1;
+    Campo* actual_ = nullptr;
+    Campo* pedido_ = nullptr;
+    bool comprobando_ = false;
+    bool oculto_ = false;
+};
+
+/// Raises `Cargando` while it lives and lowers it at the end, whatever happens in between.
+class MientrasCarga {
+  public:
+    explicit MientrasCarga(bool& Cargando) : Cargando_{Cargando}, antes_{Cargando} { Cargando_ = true; }
+    ~MientrasCarga() { Cargando_ = antes_; }
+    MientrasCarga(const MientrasCarga&) = delete;
+    MientrasCarga& operator=(const MientrasCarga&) = delete;
+
+  private:
+    bool& Cargando_;
+    bool antes_;
+};
+
+}  // namespace orvemo
