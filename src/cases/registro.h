@@ -17,7 +17,8 @@
 
 namespace orvemo {
 
-static_assert(std::endian::native == std::endian::little, "records are little-endian and copied as they stand");
+static_assert(std::endian::native == std::endian::little,
+              "records are little-endian and copied as they stand");
 
 /// A text of a record: N bytes of Windows-1252, NUL until first written, blank-padded on the right.
 template <std::size_t N>
@@ -52,7 +53,8 @@ class Texto {
 /// How a field of type T lies in a record: its width and the two ways across.
 template <typename T>
 struct EnRegistro {
-    static_assert(std::is_arithmetic_v<T>, "a field of a record is a number, a date, a text or an array of them");
+    static_assert(std::is_arithmetic_v<T>,
+                  "a field of a record is a number, a date, a text or an array of them");
     static constexpr std::size_t kAncho = sizeof(T);
     static void lee(const char* origen, T& campo) { std::memcpy(&campo, origen, sizeof(T)); }
     static void escribe(char* destino, const T& campo) { std::memcpy(destino, &campo, sizeof(T)); }
@@ -62,7 +64,9 @@ template <std::size_t N>
 struct EnRegistro<Texto<N>> {
     static constexpr std::size_t kAncho = N;
     static void lee(const char* origen, Texto<N>& campo) { std::memcpy(campo.bytes().data(), origen, N); }
-    static void escribe(char* destino, const Texto<N>& campo) { std::memcpy(destino, campo.bytes().data(), N); }
+    static void escribe(char* destino, const Texto<N>& campo) {
+        std::memcpy(destino, campo.bytes().data(), N);
+    }
 };
 
 template <>
@@ -86,7 +90,8 @@ struct EnRegistro<std::array<T, N>> {
         for (std::size_t i = 0; i < N; ++i) EnRegistro<T>::lee(origen + i * EnRegistro<T>::kAncho, campo[i]);
     }
     static void escribe(char* destino, const std::array<T, N>& campo) {
-        for (std::size_t i = 0; i < N; ++i) EnRegistro<T>::escribe(destino + i * EnRegistro<T>::kAncho, campo[i]);
+        for (std::size_t i = 0; i < N; ++i)
+            EnRegistro<T>::escribe(destino + i * EnRegistro<T>::kAncho, campo[i]);
     }
 };
 
@@ -105,11 +110,13 @@ template <typename Registro, typename... T>
 class Diseno {
   public:
     /// Checked while compiling: each offset is where the field before ends, and the last ends at `longitud`.
-    consteval Diseno(std::size_t longitud, Tramo<Registro, T>... tramos) : longitud_{longitud}, tramos_{tramos...} {
+    consteval Diseno(std::size_t longitud, Tramo<Registro, T>... tramos)
+        : longitud_{longitud}, tramos_{tramos...} {
         std::size_t fin = 0;
         (
             [&](const auto& tramo) {
-                if (tramo.posicion != fin) throw "a field of the layout leaves a gap or overlaps the one before";
+                if (tramo.posicion != fin)
+                    throw "a field of the layout leaves a gap or overlaps the one before";
                 fin += tramo.kAncho;
             }(tramos),
             ...);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,15 +13,15 @@ namespace orvemo {
 
 /// What tells one calculator's frame from another's.
 struct DefCalculadora {
-    std::string titulo;               ///< heading of the screen
-    std::string caption;              ///< caption of the window
-    std::string fichero;              ///< case file
-    int primerLibre = 1;              ///< records below are examples
+    std::string titulo;                   ///< heading of the screen
+    std::string caption;                  ///< caption of the window
+    std::string fichero;                  ///< case file
+    int primerLibre = 1;                  ///< records below are examples
     std::vector<std::string> subtitulos;  ///< one per panel, the conclusions last
 };
 
-/// The wizard that every calculator is: panels of inputs, a last panel of conclusions, a bar of five buttons and
-/// one case record behind them.
+/// The wizard that every calculator is: panels of inputs, a last panel of conclusions, a bar of five buttons
+/// and one case record behind them.
 class Calculadora : public Formulario {
   public:
     Calculadora(Entorno& entorno, DefCalculadora def);
@@ -57,12 +56,13 @@ class Calculadora : public Formulario {
     virtual void ImprimeInforme(RutinasImpresion& rutinas) = 0;
     /// Writes the buffer into the first free slot or at the end. Throws FicheroInaccesible.
     void DatosAppendRegistro();
-    /// Writes the buffer over record r; with r = 0 over the record of its name. Says nothing: false when nothing
-    /// was written.
+    /// Writes the buffer over record r; with r = 0 over the record of its name. Says nothing: false when
+    /// nothing was written.
     bool DatosGrabaRegistro(int r);
 
   protected:
-    // --- What a calculator tells -------------------------------------------------------------------------------
+    // --- What a calculator tells
+    // -------------------------------------------------------------------------------
 
     /// Fields to case buffer, in the record's order. Throws Fallo on a text that can't be read.
     virtual void tomaCampos() = 0;
@@ -105,13 +105,13 @@ class Calculadora : public Formulario {
 
   private:
     void nuevoCaso();
+    void avanza();
     void imprime();
     void ponVeredicto(const Dictamen& dictamen);
-    void informaFalloGrabacion(const std::string& motivo);
 
     DefCalculadora def_;
     std::string NombreActual_;
-    std::string motivoFallo_;
+    std::string motivoFallo_;  ///< why the last DatosGrabaRegistro wrote nothing
     bool ConDerecho_ = false;
 };
 

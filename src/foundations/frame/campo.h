@@ -25,7 +25,7 @@ enum class Clase {
     Etiqueta,       ///< a note or heading without a value
     Imagen,         ///< picture of the application directory, its bare name in the text
     Boton,
-    Veredicto,      ///< the mark Ok or Mal
+    Veredicto,  ///< the mark Ok or Mal
 };
 
 /// Panels that aren't of the wizard: always on view.
@@ -72,26 +72,27 @@ using Reaccion = std::function<void(Campo&)>;
 
 /// The declaration of a field, one line each in a calculator's screen.
 struct DefCampo {
-    std::string nombre{};               ///< as told; also its name for tests and accessibility scripts
-    int indice{0};                      ///< place in a control array, 0 when it is no member of one
-    std::string rotulo{};               ///< label, caption of a button or check box
+    std::string nombre{};  ///< as told; also its name for tests and accessibility scripts
+    int indice{0};         ///< place in a control array, 0 when it is no member of one
+    std::string rotulo{};  ///< label, caption of a button or check box
     Clase clase{Clase::Texto};
     int pantalla{0};
     Grupo* grupo{nullptr};
-    std::string defecto{};              ///< text of a new case; a blank date picker takes today's date
-    std::size_t largo{0};               ///< most characters; 0 is no limit
+    std::string defecto{};  ///< text of a new case; a blank date picker takes today's date
+    std::size_t largo{0};   ///< most characters; 0 is no limit
     FiltroTecla filtro{nullptr};
-    std::string formato{};              ///< pattern of the display while the field hasn't the focus
+    std::string formato{};  ///< pattern of the display while the field hasn't the focus
     std::vector<std::string> opciones{};
-    Reaccion alSalir{};                 ///< check on leaving
-    Reaccion alCambiar{};               ///< value changed by user or program; off while `Cargando`
-    Reaccion alEscribir{};              ///< the user changed the text
-    Reaccion alPulsar{};                ///< buttons; double click or Enter on an open list
+    Reaccion alSalir{};     ///< check on leaving
+    Reaccion alCambiar{};   ///< marks and lists: changed by user or program, off while `Cargando`;
+                            ///< dates: another one was picked or the field was left with another
+    Reaccion alEscribir{};  ///< the user changed the text
+    Reaccion alPulsar{};    ///< buttons; double click or Enter on an open list
     bool visible{true};
-    std::string ayuda{};                ///< tip
-    bool mismaLinea{false};             ///< stands on the row of the field before it
-    bool sinComprobacion{false};        ///< buttons that run no leave check: what it would protect is thrown away
-    int anchura{0};                     ///< characters to show; 0 lets the kind decide
+    std::string ayuda{};          ///< tip
+    bool mismaLinea{false};       ///< stands on the row of the field before it
+    bool sinComprobacion{false};  ///< buttons that run no leave check: what it would protect is thrown away
+    int anchura{0};               ///< characters to show; 0 lets the kind decide
 };
 
 /// A field of a form: its declaration and its present state. Every change reaches the renderer.
@@ -122,6 +123,8 @@ class Campo final : public ControlTexto {
 
     /// Its own switch and that of its group, whichever panel is on view.
     [[nodiscard]] bool visible() const;
+    /// Its own switch alone.
+    [[nodiscard]] bool visiblePropio() const { return visible_; }
     void ponVisible(bool visible);
     [[nodiscard]] bool activo() const { return activo_; }
     void ponActivo(bool activo);
@@ -143,12 +146,15 @@ class Campo final : public ControlTexto {
   private:
     friend class Formulario;
     void refresca() const;
-    void cambiado();
+    /// Of a date on being left: rewritten as "dd-MM-yyyy"; a picker that can't be read goes back to its last
+    /// date. True when it tells another date than when last settled or set.
+    bool asientaFecha();
 
     Formulario& formulario_;
     DefCampo def_;
     std::string texto_;
-    std::string fechaValida_;  ///< of a picker: where it goes back to when left unreadable
+    std::string fechaValida_;    ///< of a picker: where it goes back to when left unreadable
+    std::string fechaAsentada_;  ///< of a date: its text when last settled
     std::vector<std::string> opciones_;
     std::string rotulo_;
     int indice_ = -1;

@@ -14,7 +14,7 @@ namespace orvemo {
 /// The program-wide values, set at start and read by the calculators.
 struct ValoresPrograma {
     std::string TituloPrograma;
-    bool VerBaseActual = false;         ///< the retirement screen estimates future bases
+    bool VerBaseActual = false;          ///< the retirement screen estimates future bases
     std::int32_t LiquidoAnterior = 915;  ///< last net figure entered, euros per month
     std::uint8_t PagasAnterior = 2;      ///< extra pays offered with it
     bool FinPrograma = false;

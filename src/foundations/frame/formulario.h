@@ -28,7 +28,8 @@ class Formulario {
     /// The user closes the window: what the bar's last button does.
     virtual void cierra() { oculta(); }
 
-    // --- What the renderer reads -----------------------------------------------------------------------------
+    // --- What the renderer reads
+    // -----------------------------------------------------------------------------
 
     [[nodiscard]] const std::deque<Campo>& campos() const { return campos_; }
     [[nodiscard]] std::deque<Campo>& campos() { return campos_; }
@@ -49,14 +50,15 @@ class Formulario {
 
     void ponVista(Vista* vista) { vista_ = vista; }
 
-    // --- Events: what the user does ---------------------------------------------------------------------------
-    // None of them throws: a failure is told in a box and the form stays as it is.
+    // --- Events: what the user does
+    // --------------------------------------------------------------------------- None of them throws: a
+    // failure is told in a box and the form stays as it is.
 
-    /// The focus moved to `destino`. The field left is checked first; if it fails, the focus goes back. True when
-    /// `destino` has it now.
+    /// The focus moved to `destino`. The field left is checked first; if it fails, the focus goes back. True
+    /// when `destino` has it now.
     bool foco(Campo& destino);
-    /// A button was pressed. The field left is checked first (save by buttons that throw its value away); if it
-    /// fails the press is lost. True when the button acted.
+    /// A button was pressed. The field left is checked first (save by buttons that throw its value away); if
+    /// it fails the press is lost. True when the button acted.
     bool pulsa(Campo& boton);
     /// The text of a field is now this (typed, pasted or dictated); what the filter refuses is dropped.
     void escribe(Campo& campo, std::string_view texto);
@@ -70,7 +72,8 @@ class Formulario {
     [[nodiscard]] char32_t teclea(const Campo& campo, char32_t tecla) const;
 
   protected:
-    // --- Declaration ------------------------------------------------------------------------------------------
+    // --- Declaration
+    // ------------------------------------------------------------------------------------------
 
     Campo& nuevo(DefCampo def);
     Grupo& nuevoGrupo(DefGrupo def);
@@ -82,12 +85,15 @@ class Formulario {
     void ponSubtitulo(std::string subtitulo);
     void ponNumPantallas(int n) { numPantallas_ = n; }
 
-    // --- State shared with the screens -------------------------------------------------------------------------
+    // --- State shared with the screens
+    // -------------------------------------------------------------------------
 
     /// Shows a panel and hides the others; focus and calculations are the derived screen's matter.
     void muestra(int pantalla);
-    /// Moves the focus without checking the field left.
+    /// Moves the focus without checking the field left; nothing happens if the field can't take it.
     void enfoca(Campo& campo);
+    /// Moves the focus to the first field of the panel on view that can take it.
+    void enfocaPrimero();
     void oculta();
     /// Runs an operation; a failure is told in a box. False when it failed.
     bool protegido(const std::function<void()>& accion);
@@ -105,10 +111,11 @@ class Formulario {
     friend class Grupo;
 
     [[nodiscard]] bool dejaActual();
+    void comprueba(Campo& campo);
     void entra(Campo& campo);
-    void asientaFecha(Campo& campo);
+    void pideFoco(Campo& campo);
     void reacciona(Campo& campo);
-    void compruebaPantallaDe(const Campo& campo);
+    [[nodiscard]] std::string depura(const Campo& campo, std::string_view texto) const;
 
     Entorno& entorno_;
     Vista* vista_ = nullptr;
@@ -121,6 +128,26 @@ class Formulario {
     Campo* pedido_ = nullptr;
     bool comprobando_ = false;
     bool oculto_ = false;
+};
+
+/// The values that the fields of a form hold at one moment, to go back to.
+class Instantanea {
+  public:
+    explicit Instantanea(Formulario& formulario);
+    /// Puts every field back as it was, without reactions.
+    void restaura(bool& Cargando) const;
+
+  private:
+    struct Valores {
+        Campo* campo;
+        std::string texto;
+        std::vector<std::string> opciones;
+        std::string rotulo;
+        int indice;
+        bool marcado;
+        bool visible;
+    };
+    std::vector<Valores> valores_;
 };
 
 /// Raises `Cargando` while it lives and lowers it at the end, whatever happens in between.

@@ -1,0 +1,93 @@
+#include "benefits/desemp_frm.h"
+
+#include "benefits/desempleo.h"
+#include "foundations/frame/informe.h"
+#include "foundations/values/formatos.h"
+#include "foundations/values/numeros.h"
+
+namespace orvemo {
+
+DesempFrm::DesempFrm(Entorno& entorno)
+    : CalculadoraDe{entorno,
+                    {.titulo = "PRESTACIONES DE DESEMPLEO",
+                     .caption = "Prestaciones de desempleo",
+                     .fichero = "desemp.nom",
+                     .subtitulos = {"Datos del solicitante", "CONCLUSIONES SOBRE PRESTACION DE DESEMPLEO"}}},
+      Nombre{nuevo({.nombre = "Nombre", .rotulo = "Nombre completo:", .largo = 50})},
+      Edad{nuevo({.nombre = "Edad",
+                  .rotulo = "Edad del solicitante:",
+                  .defecto = "0",
+                  .filtro = TeclaDigito,
+                  .alSalir = rango("1", "99")})},
+      Fecha{nuevo({.nombre = "Fecha", .rotulo = "Fecha de solicitud:", .clase = Clase::FechaSelector})},
+      fIni{nuevo(
+          {.nombre = "fIni", .rotulo = "Fecha de inicio de la situación:", .clase = Clase::FechaSelector})},
+      Suma{nuevo({.nombre = "Suma",
+                  .rotulo = "Suma de cotizaciones de los últimos 180 días:",
+                  .defecto = "0",
+                  .filtro = TeclaNumero,
+                  .alSalir = rango("0", "999999")})},
+      Dias{nuevo({.nombre = "Dias",
+                  .rotulo = "Días cotizados en los 6 años anteriores:",
+                  .defecto = "0",
+                  .filtro = TeclaDigito,
+                  .alSalir = rango("0", "9999")})},
+      Hijos{nuevo({.nombre = "Hijos",
+                   .rotulo = "Número de hijos menores de 26 años o minusválidos:",
+                   .defecto = "0",
+                   .filtro = TeclaDigito,
+                   .alSalir = rango("0", "20")})},
+      Parcial{nuevo({.nombre = "Parcial",
+                     .rotulo = "Marque si es contrato a tiempo parcial ",
+                     .clase = Clase::Casilla,
+                     .alCambiar = [this](Campo& parcial) { Horas.ponVisible(parcial.marcado()); }})},
+      Horas{nuevo({.nombre = "Horas",
+                   .rotulo = "Horas reales trabajadas durante la semana (1 a 39 horas):",
+                   .defecto = "0",
+                   .filtro = TeclaDigito,
+                   .alSalir = rango("1", "39"),
+                   .visible = false})} {}
+
+void DesempFrm::tomaCampos() {
+    caso_.Nombre.asigna(Recorta(Nombre.texto()));
+    caso_.Edad = LeeEnteroRegional(Edad.texto());
+    caso_.Fecha_ = LeeFecha(Fecha.texto());
+    caso_.fIni = LeeFecha(fIni.texto());
+    caso_.Suma = DobleDe(Suma.texto());
+    caso_.Dias = LeeEnteroRegional(Dias.texto());
+    caso_.Hijos = LeeEnteroRegional(Hijos.texto());
+    caso_.Horas = LeeEnteroRegional(Horas.texto());
+    caso_.Parcial = Parcial.marcado() ? 1 : 0;
+}
+
+void DesempFrm::cargaCampos() {
+    Nombre.ponTexto(caso_.Nombre.utf8());
+    Edad.ponTexto(TextoPlano(caso_.Edad));
+    Fecha.ponTexto(FormatoFecha(caso_.Fecha_, "dd-MM-yyyy"));
+    fIni.ponTexto(FormatoFecha(caso_.fIni, "dd-MM-yyyy"));
+    Suma.ponTexto(FormatoNumero(caso_.Suma, "#0.00"));
+    Dias.ponTexto(TextoPlano(caso_.Dias));
+    Hijos.ponTexto(TextoPlano(caso_.Hijos));
+    Horas.ponTexto(TextoPlano(caso_.Horas));
+    Parcial.ponMarcado(caso_.Parcial == 1);
+}
+
+void DesempFrm::calcula(Dictamen& dictamen) {
+    desempleo::CalculaDesempleo(caso_, dictamen);
+}
+
+void DesempFrm::ImprimeInforme(RutinasImpresion& rutinas) {
+    Informe informe{rutinas, "DESEMPLEO"};
+    informe.linea("Nombre:$N" + Nombre.texto() + "$n");
+    informe.linea("Edad: " + Edad.texto());
+    informe.linea("Fecha de solicitud: " + FormatoFecha(FechaDe(Fecha.texto()), "dd-mmm-yyyy"));
+    informe.linea("Fecha de inicio de la situación: " + FormatoFecha(FechaDe(fIni.texto()), "dd-mmm-yyyy"));
+    informe.linea("Suma de cotizaciones de los últimos 180 días: " +
+                  FormatoNumero(DobleDe(Suma.texto()), "##,###,##0.00") + "€");
+    informe.linea("Número de hijos menores de 26 años o minusválidos: " + Hijos.texto());
+    informe.separa();
+    informe.tituloConclusiones();
+    informe.conclusiones(textoConclusion());
+}
+
+}  // namespace orvemo

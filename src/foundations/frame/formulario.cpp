@@ -1,0 +1,244 @@
+#include "foundations/frame/formulario.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+#include "foundations/values/fallos.h"
+#include "foundations/values/formatos.h"
+#include "foundations/values/textos.h"
+
+namespace orvemo {
+
+Formulario::Formulario(Entorno& entorno) : entorno_{entorno} {}
+
+// --- Declaration
+// -------------------------------------------------------------------------------------------------
+
+Campo& Formulario::nuevo(DefCampo def) {
+    return campos_.emplace_back(*this, std::move(def));
+}
+
+Grupo& Formulario::nuevoGrupo(DefGrupo def) {
+    return grupos_.emplace_back(*this, std::move(def));
+}
+
+Reaccion Formulario::rango(std::string minimo, std::string maximo) {
+    return [this, minimo = std::move(minimo), maximo = std::move(maximo)](Campo& campo) {
+        CompruebaRango(campo, minimo, maximo, DatoMal, mensajes());
+    };
+}
+
+Reaccion Formulario::fechaCorrecta() {
+    return [this](Campo& campo) { CompruebaFecha(campo, DatoMal, mensajes(), entorno_.reloj); };
+}
+
+void Formulario::ponTitulos(std::string titulo, std::string caption) {
+    titulo_ = std::move(titulo);
+    caption_ = std::move(caption);
+    if (vista_ != nullptr) vista_->refrescaTitulos();
+}
+
+void Formulario::ponSubtitulo(std::string subtitulo) {
+    subtitulo_ = std::move(subtitulo);
+    if (vista_ != nullptr) vista_->refrescaTitulos();
+}
+
+// --- What can be asked
+// -------------------------------------------------------------------------------------------
+
+Campo& Formulario::campo(std::string_view nombre, int indice) {
+    const auto encontrado = std::ranges::find_if(campos_, [&](const Campo& campo) {
+        return campo.def().nombre == nombre && campo.def().indice == indice;
+    });
+    if (encontrado == campos_.end()) throw std::out_of_range{"no field named " + std::string{nombre}};
+    return *encontrado;
+}
+
+bool Formulario::enPantalla(const Campo& campo) const {
+    const bool suSitio = campo.pantalla() < 0 || campo.pantalla() == PantallaActual_;
+    return suSitio && campo.visible();
+}
+
+// --- Focus and checks
+// --------------------------------------------------------------------------------------------
+
+bool Formulario::foco(Campo& destino) {
+    if (comprobando_) return false;
+    if (&destino == actual_) return true;
+    // The field isn't left yet: going through such a button throws its value away, passing by it does not.
+    if (destino.def().sinComprobacion) return true;
+    if (!dejaActual()) return false;
+    actual_ = &destino;
+    entra(destino);
+    return true;
+}
+
+bool Formulario::dejaActual() {
+    if (actual_ == nullptr || !actual_->enfocable() || !enPantalla(*actual_)) return true;
+    Campo& dejado = *actual_;
+    pedido_ = nullptr;
+    comprobando_ = true;
+    protegido([&] { comprueba(dejado); });
+    comprobando_ = false;
+    if (pedido_ == nullptr) return true;
+    enfoca(*std::exchange(pedido_, nullptr));
+    return false;
+}
+
+void Formulario::comprueba(Campo& campo) {
+    const bool otraFecha = campo.esFecha() && campo.asientaFecha();
+    if (campo.def().alSalir) campo.def().alSalir(campo);
+    if (otraFecha && pedido_ == nullptr) reacciona(campo);
+}
+
+void Formulario::entra(Campo& /*campo*/) {
+    DatoMal = false;
+}
+
+void Formulario::pideFoco(Campo& campo) {
+    if (comprobando_) {
+        pedido_ = &campo;
+    } else {
+        enfoca(campo);
+    }
+}
+
+void Formulario::enfoca(Campo& campo) {
+    if (!campo.enfocable() || !enPantalla(campo)) return;
+    actual_ = &campo;
+    entra(campo);
+    if (vista_ != nullptr) vista_->enfoca(campo);
+}
+
+void Formulario::enfocaPrimero() {
+    const auto primero = std::ranges::find_if(campos_, [&](const Campo& campo) {
+        return campo.pantalla() == PantallaActual_ && campo.enfocable();
+    });
+    if (primero != campos_.end()) enfoca(*primero);
+}
+
+void Formulario::reacciona(Campo& campo) {
+    if (!Cargando && campo.def().alCambiar) campo.def().alCambiar(campo);
+}
+
+// --- Events
+// ------------------------------------------------------------------------------------------------------
+
+bool Formulario::pulsa(Campo& boton) {
+    if (comprobando_ || !boton.enfocable() || !enPantalla(boton)) return false;
+    if (!boton.def().sinComprobacion && !foco(boton)) return false;
+    if (boton.def().alPulsar) protegido([&] { boton.def().alPulsar(boton); });
+    return true;
+}
+
+void Formulario::escribe(Campo& campo, std::string_view texto) {
+    protegido([&] {
+        const std::string antes = campo.texto();
+        campo.texto_ = depura(campo, texto);
+        if (vista_ != nullptr) vista_->refresca(campo);
+        if (campo.texto_ != antes && campo.def().alEscribir) campo.def().alEscribir(campo);
+    });
+}
+
+std::string Formulario::depura(const Campo& campo, std::string_view texto) const {
+    const std::string_view antes = campo.texto();
+    std::string admitido{texto};
+    if (campo.def().filtro != nullptr) {
+        // Only what is new goes through the filter, as it would key by key; what stood there stays.
+        const auto [a, t] = std::ranges::mismatch(antes, texto);
+        const auto comun = static_cast<std::size_t>(t - texto.begin());
+        std::size_t cola = 0;
+        while (cola + comun < std::min(antes.size(), texto.size()) &&
+               antes[antes.size() - 1 - cola] == texto[texto.size() - 1 - cola]) {
+            ++cola;
+        }
+        const std::string_view final = texto.substr(texto.size() - cola);
+        admitido = texto.substr(0, comun);
+        for (std::size_t pos = comun; pos < texto.size() - cola;) {
+            const char32_t tecla = SiguienteCaracter(texto, pos);
+            const char32_t pasa = campo.def().filtro(tecla, admitido + std::string{final});
+            if (pasa >= U' ') AgregaCaracter(admitido, pasa);
+        }
+        admitido += final;
+    }
+    std::erase_if(admitido, [](char c) { return c == '\0' || c == '\r' || c == '\n'; });
+    if (campo.def().largo > 0) admitido = PrimerosCaracteres(admitido, campo.def().largo);
+    return admitido;
+}
+
+void Formulario::marca(Campo& campo, bool marcado) {
+    protegido([&] { campo.ponMarcado(marcado); });
+}
+
+void Formulario::elige(Campo& campo, int indice) {
+    protegido([&] { campo.ponIndice(indice); });
+}
+
+void Formulario::eligeFecha(Campo& campo, Fecha fecha) {
+    protegido([&] {
+        campo.ponTexto(FormatoFecha(fecha, "dd-MM-yyyy"));
+        if (campo.asientaFecha()) reacciona(campo);
+    });
+}
+
+void Formulario::doblePulsa(Campo& campo) {
+    if (campo.def().alPulsar) protegido([&] { campo.def().alPulsar(campo); });
+}
+
+char32_t Formulario::teclea(const Campo& campo, char32_t tecla) const {
+    return campo.def().filtro == nullptr ? tecla : campo.def().filtro(tecla, campo.texto());
+}
+
+// --- State
+// -------------------------------------------------------------------------------------------------------
+
+void Formulario::muestra(int pantalla) {
+    PantallaActual_ = pantalla;
+    if (vista_ != nullptr) vista_->muestraPantalla(pantalla);
+}
+
+void Formulario::oculta() {
+    oculto_ = true;
+    if (vista_ != nullptr) vista_->oculta();
+}
+
+bool Formulario::protegido(const std::function<void()>& accion) {
+    try {
+        accion();
+        return true;
+    } catch (const Fallo& fallo) {
+        mensajes().ComunicaError("No se ha podido completar la operación: " + std::string{fallo.what()} +
+                                 ".");
+        return false;
+    }
+}
+
+// --- Instantanea
+// -------------------------------------------------------------------------------------------------
+
+Instantanea::Instantanea(Formulario& formulario) {
+    for (Campo& campo : formulario.campos()) {
+        valores_.push_back({&campo, campo.texto(), campo.opciones(), campo.rotulo(), campo.indice(),
+                            campo.marcado(), campo.visiblePropio()});
+    }
+}
+
+void Instantanea::restaura(bool& Cargando) const {
+    const MientrasCarga mientras{Cargando};
+    for (const Valores& v : valores_) {
+        const bool esLista =
+            v.campo->def().clase == Clase::Lista || v.campo->def().clase == Clase::ListaAbierta;
+        if (esLista) {
+            v.campo->ponOpciones(v.opciones);
+            v.campo->ponIndice(v.indice);
+        } else {
+            v.campo->ponTexto(v.texto);
+        }
+        v.campo->ponMarcado(v.marcado);
+        v.campo->ponRotulo(v.rotulo);
+        v.campo->ponVisible(v.visible);
+    }
+}
+
+}  // namespace orvemo
