@@ -1,0 +1,16 @@
+# Run at install time. The program matches file names without regard to case, so a user's NOCONT.NOM is also the
+# nocont.nom that must not be overwritten, nor be put in the shade by a second file.
+function(instala_si_falta origen)
+    get_filename_component(nombre "${origen}" NAME)
+    string(TOLOWER "${nombre}" buscado)
+    set(carpeta "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+    file(GLOB presentes RELATIVE "${carpeta}" "${carpeta}/*")
+    foreach(presente IN LISTS presentes)
+        string(TOLOWER "${presente}" presente_minusculas)
+        if(presente_minusculas STREQUAL buscado)
+            message(STATUS "Kept the user's file: ${carpeta}/${presente}")
+            return()
+        endif()
+    endforeach()
+    file(INSTALL "${origen}" DESTINATION "${CMAKE_INSTALL_PREFIX}" TYPE FILE)
+endfunction()
