@@ -1,0 +1,38 @@
+#include "shell/calculadoras.h"
+
+#include <algorithm>
+#include <memory>
+#include <string_view>
+
+#include "benefits/desemp_frm.h"
+
+namespace orvemo {
+
+namespace {
+
+template <typename Pantalla>
+std::unique_ptr<Formulario> crea(Entorno& entorno) {
+    return std::make_unique<Pantalla>(entorno);
+}
+
+struct PantallaDisponible {
+    std::string_view nombre;
+    std::unique_ptr<Formulario> (*abre)(Entorno&);
+};
+
+constexpr std::array kDisponibles{
+    PantallaDisponible{"DesempFrm", crea<DesempFrm>},
+};
+
+}  // namespace
+
+Pantallas PantallasDisponibles() {
+    Pantallas pantallas;
+    for (const PantallaDisponible& disponible : kDisponibles) {
+        const auto opcion = std::ranges::find(kOpciones, disponible.nombre, &DefOpcion::pantalla);
+        pantallas.at(static_cast<std::size_t>(opcion - kOpciones.begin())) = disponible.abre;
+    }
+    return pantallas;
+}
+
+}  // namespace orvemo

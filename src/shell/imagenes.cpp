@@ -1,0 +1,12 @@
+#include "shell/imagenes.h"
+
+#include "foundations/values/fallos.h"
+
+namespace orvemo {
+
+std::string ImagenPresente(const Almacen& almacen, std::string nombre) {
+    if (!almacen.existe(nombre)) throw FicheroInaccesible{nombre, "no está en la carpeta del programa"};
+    return nombre;
+}
+
+}  // namespace orvemo
