@@ -11,8 +11,9 @@ struct AjustesRegionales {
     char marcaMiles = '.';
     std::array<std::string_view, 12> mesesCortos{"ene", "feb", "mar", "abr", "may", "jun",
                                                  "jul", "ago", "sep", "oct", "nov", "dic"};
-    std::array<std::string_view, 12> meses{"enero", "febrero", "marzo",      "abril",   "mayo",      "junio",
-                                           "julio", "agosto",  "septiembre", "octubre", "noviembre", "diciembre"};
+    std::array<std::string_view, 12> meses{"enero",      "febrero", "marzo",     "abril",
+                                           "mayo",       "junio",   "julio",     "agosto",
+                                           "septiembre", "octubre", "noviembre", "diciembre"};
     std::array<std::string_view, 7> diasSemana{"lunes",   "martes", "miércoles", "jueves",
                                                "viernes", "sábado", "domingo"};
 };

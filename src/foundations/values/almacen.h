@@ -32,8 +32,8 @@ class Almacen {
     virtual ~Almacen() = default;
     /// True for an ordinary file.
     [[nodiscard]] virtual bool existe(std::string_view nombre) const = 0;
-    /// Opens for random access and creates the file if absent. For reading, a file that is absent and can't be
-    /// created reads as empty. Throws FicheroInaccesible.
+    /// Opens for random access and creates the file if absent. For reading, a file that is absent and can't
+    /// be created reads as empty. Throws FicheroInaccesible.
     [[nodiscard]] virtual std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) = 0;
     /// The whole file. Throws FicheroInaccesible.
     [[nodiscard]] virtual std::string leeTodo(std::string_view nombre) const = 0;

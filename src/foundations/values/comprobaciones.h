@@ -17,8 +17,8 @@ class ControlTexto {
     virtual void pideFoco() = 0;
 };
 
-/// A date, rewritten as "dd-MM-yyyy". A bad one is told, today's date takes its place and the focus comes back.
-/// Does nothing while `DatoMal` is set.
+/// A date, rewritten as "dd-MM-yyyy". A bad one is told, today's date takes its place and the focus comes
+/// back. Does nothing while `DatoMal` is set.
 void CompruebaFecha(ControlTexto& campo, bool& DatoMal, Mensajes& mensajes, const Reloj& reloj);
 
 /// A number between limits, read by LeeNumero (a comma ends it); the limits are told in the message as given.

@@ -16,6 +16,9 @@ inline constexpr Fecha kFechaIlegible{std::chrono::year{1900} / 1 / 1};
 /// The units in which dates are told apart and moved.
 enum class Intervalo { Dia, Semana, Mes, Anio };
 
+/// True for a day that the calendar has, in the years 100 to 9999.
+[[nodiscard]] bool ExisteFecha(int dia, int mes, int anio);
+
 /// The date of a day, month and year. Throws FechaInexistente.
 [[nodiscard]] Fecha FechaDMA(int dia, int mes, int anio);
 
@@ -30,11 +33,12 @@ enum class Intervalo { Dia, Semana, Mes, Anio };
 /// date (NaN, infinite, or outside the years 100 to 9999).
 [[nodiscard]] Fecha FechaDeSerie(double serie) noexcept;
 
-/// Signed distance from `desde` to `hasta`: days; whole weeks, toward zero; month boundaries crossed, whatever
-/// the days; difference of the year numbers.
+/// Signed distance from `desde` to `hasta`: days; whole weeks, toward zero; month boundaries crossed,
+/// whatever the days; difference of the year numbers.
 [[nodiscard]] int DiferenciaFechas(Intervalo intervalo, Fecha desde, Fecha hasta);
 
-/// The date `n` units later. A day that the target month lacks falls on that month's last day.
+/// The date `n` units later. A day that the target month lacks falls on that month's last day. Throws
+/// DesbordeNumerico, with `n`, when the result leaves the years 100 to 9999.
 [[nodiscard]] Fecha SumaFecha(Intervalo intervalo, int n, Fecha fecha);
 
 /// Whole years as one counts an age, save that in different months only the month numbers are looked at.

@@ -9,16 +9,19 @@
 
 namespace orvemo {
 
-/// The number by a pattern of `#`, `0`, `,` and `.`, with the regional marks. Rounds half away from zero on the
-/// decimal text of the value at 15 significant digits; a value that rounds to zero carries no minus.
+/// The number by a pattern of `#`, `0`, `,` and `.`, with the regional marks. Rounds half away from zero on
+/// the decimal text of the value at 15 significant digits; a value that rounds to zero carries no minus. What
+/// stands before and after the pattern's digits comes out as it is ("##0.00%"), and so does a pattern without
+/// digits. A damaged record's NaN or infinity gives "".
 [[nodiscard]] std::string FormatoNumero(double valor, std::string_view patron,
                                         const AjustesRegionales& ajustes = kEspana);
 
 /// The plain text of a number: at most 15 significant digits, the regional decimal mark, no exponent, no
-/// trailing zeros ("1010,765", "38").
+/// trailing zeros ("1010,765", "38"). NaN or infinity gives "".
 [[nodiscard]] std::string TextoPlano(double valor, const AjustesRegionales& ajustes = kEspana);
 
-/// The date by a pattern of d, dd, m, mm, mmm, mmmm, yy, yyyy (m or M alike) with anything else as it stands.
+/// The date by a pattern of d, dd, dddd (the weekday), m, mm, mmm, mmmm, yy, yyyy (m or M alike) with
+/// anything else as it stands.
 [[nodiscard]] std::string FormatoFecha(Fecha fecha, std::string_view patron,
                                        const AjustesRegionales& ajustes = kEspana);
 
@@ -27,10 +30,11 @@ namespace orvemo {
 
 /// Checks and rewrites by type: "D" dates, "N" numbers, blank passes both; any other type passes untouched.
 /// False when the value is invalid.
-[[nodiscard]] bool FormateaCampo(Valor& valor, std::string_view tipo, const AjustesRegionales& ajustes = kEspana);
+[[nodiscard]] bool FormateaCampo(Valor& valor, std::string_view tipo,
+                                 const AjustesRegionales& ajustes = kEspana);
 
-/// True when the value reads as a date, day first: hyphens or slashes, two or four digits of year (00 to 29 are
-/// 20xx).
+/// True when the value reads as a date, day first: hyphens or slashes, two or four digits of year (00 to 29
+/// are 20xx).
 [[nodiscard]] bool EsFecha(const Valor& valor);
 
 /// The date that a text tells. Throws TextoIlegible, FechaInexistente.

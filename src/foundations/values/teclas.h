@@ -5,8 +5,8 @@
 
 namespace orvemo {
 
-/// What becomes of a typed character, given the field's whole present text: the character to insert, 0 when it
-/// is swallowed.
+/// What becomes of a typed character, given the field's whole present text: the character to insert, 0 when
+/// it is swallowed.
 using FiltroTecla = char32_t (*)(char32_t codigo, std::string_view texto);
 
 /// Control keys and digits.

@@ -26,7 +26,7 @@ inline constexpr std::string_view kFinDeLinea = "\r\n";
 [[nodiscard]] std::string_view PrimerosCaracteres(std::string_view texto, std::size_t n);
 
 /// The code point at byte `pos` of a UTF-8 text, `pos` moved past it; a byte that fits nowhere gives U+FFFD.
-[[nodiscard]] char32_t SiguienteCaracter(std::string_view texto, std::size_t& pos);
+char32_t SiguienteCaracter(std::string_view texto, std::size_t& pos);
 
 /// Appends a code point as UTF-8.
 void AgregaCaracter(std::string& texto, char32_t caracter);

@@ -1,0 +1,262 @@
+#include "foundations/values/almacen.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <ios>
+#include <system_error>
+#include <utility>
+
+#include "foundations/values/fallos.h"
+
+namespace orvemo {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Why the system refused, for the user.
+struct Motivo {
+    std::errc error;
+    const char* texto;
+};
+
+constexpr Motivo kMotivos[] = {
+    {std::errc::permission_denied, "no hay permiso"},
+    {std::errc::operation_not_permitted, "no hay permiso"},
+    {std::errc::read_only_file_system, "el disco es de solo lectura"},
+    {std::errc::no_such_file_or_directory, "no existe"},
+    {std::errc::not_a_directory, "su carpeta no existe"},
+    {std::errc::is_a_directory, "es una carpeta"},
+    {std::errc::no_space_on_device, "el disco está lleno"},
+    {std::errc::file_too_large, "no cabe en el disco"},
+    {std::errc::filename_too_long, "el nombre es demasiado largo"},
+    {std::errc::too_many_files_open, "hay demasiados ficheros abiertos"},
+    {std::errc::text_file_busy, "otro programa lo está usando"},
+    {std::errc::device_or_resource_busy, "otro programa lo está usando"},
+    {std::errc::io_error, "el disco falla"},
+};
+
+std::string motivo(const std::error_code& error, const char* otro) {
+    const auto conocido = std::find_if(std::begin(kMotivos), std::end(kMotivos), [&](const Motivo& m) {
+        return error == std::make_error_code(m.error);
+    });
+    return conocido == std::end(kMotivos) ? otro : conocido->texto;
+}
+
+/// The system's last error: the streams of the library tell no more than that they failed.
+std::error_code errorDelSistema() {
+    return {errno, std::generic_category()};
+}
+
+bool esCarpeta(const fs::path& ruta) {
+    std::error_code error;
+    return fs::is_directory(ruta, error);
+}
+
+bool existeAlgo(const fs::path& ruta) {
+    std::error_code error;
+    return fs::exists(ruta, error);
+}
+
+/// Opens a file without a buffer: what is written goes to the disk at once, and what fails is known at once.
+std::fstream abreFlujo(const fs::path& ruta, std::ios::openmode modo) {
+    std::fstream flujo;
+    flujo.rdbuf()->pubsetbuf(nullptr, 0);
+    errno = 0;
+    flujo.open(ruta, modo | std::ios::binary);
+    return flujo;
+}
+
+/// Makes an empty file where there is none; says nothing when it can't.
+void creaSiFalta(const fs::path& ruta) {
+    if (!existeAlgo(ruta)) abreFlujo(ruta, std::ios::out | std::ios::app);
+}
+
+/// A file that is absent from a directory where nothing can be created.
+class FicheroVacio final : public FicheroAleatorio {
+  public:
+    [[nodiscard]] std::uint64_t longitud() override { return 0; }
+    std::size_t lee(std::uint64_t, std::span<char>) override { return 0; }
+    std::size_t escribe(std::uint64_t, std::span<const char>) override { return 0; }
+    bool corta(std::uint64_t) override { return false; }
+};
+
+class FicheroEnDisco final : public FicheroAleatorio {
+  public:
+    FicheroEnDisco(fs::path ruta, std::fstream flujo) : ruta_{std::move(ruta)}, flujo_{std::move(flujo)} {}
+
+    [[nodiscard]] std::uint64_t longitud() override {
+        flujo_.clear();
+        flujo_.seekg(0, std::ios::end);
+        const auto fin = flujo_.tellg();
+        return fin < 0 ? 0 : static_cast<std::uint64_t>(fin);
+    }
+
+    std::size_t lee(std::uint64_t posicion, std::span<char> destino) override {
+        flujo_.clear();
+        flujo_.seekg(static_cast<std::streamoff>(posicion));
+        flujo_.read(destino.data(), static_cast<std::streamsize>(destino.size()));
+        if (flujo_.bad()) throw FicheroInaccesible{ruta_.filename().string(), "no se puede leer"};
+        return static_cast<std::size_t>(flujo_.gcount());
+    }
+
+    std::size_t escribe(std::uint64_t posicion, std::span<const char> origen) override {
+        flujo_.clear();
+        if (!flujo_.seekp(static_cast<std::streamoff>(posicion))) return 0;
+        const auto escritos =
+            flujo_.rdbuf()->sputn(origen.data(), static_cast<std::streamsize>(origen.size()));
+        flujo_.flush();
+        return static_cast<std::size_t>(std::max<std::streamsize>(escritos, 0));
+    }
+
+    bool corta(std::uint64_t longitud) override {
+        std::error_code error;
+        fs::resize_file(ruta_, longitud, error);
+        return !error;
+    }
+
+  private:
+    fs::path ruta_;
+    std::fstream flujo_;
+};
+
+/// A file being written beside the one that it will replace. Removed unless it takes that place.
+class Relevo {
+  public:
+    explicit Relevo(const fs::path& destino) : destino_{destino}, ruta_{destino} { ruta_ += ".nuevo"; }
+    Relevo(const Relevo&) = delete;
+    Relevo& operator=(const Relevo&) = delete;
+    ~Relevo() {
+        std::error_code error;
+        if (!puesto_ && creado_) fs::remove(ruta_, error);
+    }
+
+    void escribe(std::string_view contenido) {
+        std::fstream flujo = abreFlujo(ruta_, std::ios::out | std::ios::trunc);
+        if (!flujo.is_open()) falla(errorDelSistema());
+        creado_ = true;
+        const auto escritos =
+            flujo.rdbuf()->sputn(contenido.data(), static_cast<std::streamsize>(contenido.size()));
+        if (escritos != static_cast<std::streamsize>(contenido.size())) falla(errorDelSistema());
+        flujo.close();
+        if (flujo.fail()) falla(errorDelSistema());
+    }
+
+    void ocupaSuSitio() {
+        std::error_code error;
+        const auto antes = fs::status(destino_, error);
+        if (fs::exists(antes)) fs::permissions(ruta_, antes.permissions(), error);
+        fs::rename(ruta_, destino_, error);
+        if (error) falla(error);
+        puesto_ = true;
+    }
+
+  private:
+    [[noreturn]] void falla(const std::error_code& error) const {
+        throw FicheroInaccesible{destino_.filename().string(), motivo(error, "no se puede escribir")};
+    }
+
+    fs::path destino_;
+    fs::path ruta_;
+    bool creado_ = false;
+    bool puesto_ = false;
+};
+
+char minuscula(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool igualSinCaja(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return minuscula(x) == minuscula(y); });
+}
+
+/// One name in a directory: the exact one, else the smallest that matches without regard to case.
+fs::path resuelve(const fs::path& carpeta, const std::string& nombre) {
+    const fs::path exacta = carpeta / nombre;
+    if (existeAlgo(exacta)) return exacta;
+    std::string elegido;
+    std::error_code error;
+    for (fs::directory_iterator entrada{carpeta, error}, fin; !error && entrada != fin;
+         entrada.increment(error)) {
+        std::string candidato = entrada->path().filename().string();
+        const bool mejor = elegido.empty() || candidato < elegido;
+        if (igualSinCaja(candidato, nombre) && mejor) elegido = std::move(candidato);
+    }
+    return elegido.empty() ? exacta : carpeta / elegido;
+}
+
+}  // namespace
+
+DirectorioAplicacion::DirectorioAplicacion(fs::path directorio) : directorio_{std::move(directorio)} {}
+
+bool DirectorioAplicacion::existe(std::string_view nombre) const {
+    return ExisteArchivo(ruta(nombre));
+}
+
+std::unique_ptr<FicheroAleatorio> DirectorioAplicacion::abre(std::string_view nombre, Acceso acceso) {
+    const fs::path fichero = ruta(nombre);
+    if (esCarpeta(fichero)) throw FicheroInaccesible{std::string{nombre}, "es una carpeta"};
+    creaSiFalta(fichero);
+    const auto errorAlCrear = errorDelSistema();
+    const bool falta = !existeAlgo(fichero);
+    if (falta && acceso == Acceso::Lectura) return std::make_unique<FicheroVacio>();
+    if (falta) throw FicheroInaccesible{std::string{nombre}, motivo(errorAlCrear, "no se puede crear")};
+    const auto modo = acceso == Acceso::Lectura ? std::ios::in : std::ios::in | std::ios::out;
+    std::fstream flujo = abreFlujo(fichero, modo);
+    if (!flujo.is_open()) {
+        throw FicheroInaccesible{std::string{nombre}, motivo(errorDelSistema(), "no se puede abrir")};
+    }
+    return std::make_unique<FicheroEnDisco>(fichero, std::move(flujo));
+}
+
+std::string DirectorioAplicacion::leeTodo(std::string_view nombre) const {
+    const fs::path fichero = ruta(nombre);
+    if (esCarpeta(fichero)) throw FicheroInaccesible{std::string{nombre}, "es una carpeta"};
+    std::fstream flujo = abreFlujo(fichero, std::ios::in);
+    if (!flujo.is_open()) {
+        throw FicheroInaccesible{std::string{nombre}, motivo(errorDelSistema(), "no se puede abrir")};
+    }
+    constexpr std::size_t kTrozo = 65536;
+    std::string contenido;
+    do {
+        const std::size_t leidos = contenido.size();
+        contenido.resize(leidos + kTrozo);
+        flujo.read(contenido.data() + leidos, static_cast<std::streamsize>(kTrozo));
+        contenido.resize(leidos + static_cast<std::size_t>(flujo.gcount()));
+    } while (flujo);
+    if (flujo.bad()) throw FicheroInaccesible{std::string{nombre}, "no se puede leer"};
+    return contenido;
+}
+
+void DirectorioAplicacion::sustituye(std::string_view nombre, std::string_view contenido) {
+    const fs::path fichero = ruta(nombre);
+    const bool hay = existeAlgo(fichero);
+    if (esCarpeta(fichero)) throw FicheroInaccesible{std::string{nombre}, "es una carpeta"};
+    if (hay && !ExisteArchivo(fichero))
+        throw FicheroInaccesible{std::string{nombre}, "no es un fichero corriente"};
+    if (hay && !abreFlujo(fichero, std::ios::in | std::ios::out).is_open()) {
+        throw FicheroInaccesible{std::string{nombre}, motivo(errorDelSistema(), "no se puede escribir")};
+    }
+    std::error_code error;
+    const fs::path real = hay ? fs::canonical(fichero, error) : fichero;  // a link stays a link
+    Relevo relevo{error ? fichero : real};
+    relevo.escribe(contenido);
+    relevo.ocupaSuSitio();
+}
+
+fs::path DirectorioAplicacion::ruta(std::string_view nombre) const {
+    std::string conBarras{nombre};
+    std::replace(conBarras.begin(), conBarras.end(), '\\', '/');
+    fs::path encontrada = directorio_;
+    for (const auto& parte : fs::path{conBarras}.relative_path())
+        encontrada = resuelve(encontrada, parte.string());
+    return encontrada;
+}
+
+bool ExisteArchivo(const fs::path& ruta) {
+    std::error_code error;
+    return fs::is_regular_file(ruta, error);
+}
+
+}  // namespace orvemo
