@@ -9,7 +9,7 @@ namespace orvemo {
 
 /// A picture as the report engine needs it: where it lies and its shape.
 struct Imagen {
-    std::string nombre;        ///< bare name in the application directory
+    std::string nombre;          ///< bare name in the application directory
     double ancho = 0, alto = 0;  ///< in any unit: only their ratio counts
 };
 
@@ -22,8 +22,8 @@ struct Fuente {
     friend bool operator==(const Fuente&, const Fuente&) = default;
 };
 
-/// A print target: paper, a PDF, or a recorder. Positions and measures in centimetres from the top left corner
-/// of the printable page; Y is the top of a line of text. What fails throws FalloImpresion.
+/// A print target: paper, a PDF, or a recorder. Positions and measures in centimetres from the top left
+/// corner of the printable page; Y is the top of a line of text. What fails throws FalloImpresion.
 class DestinoImpresion {
   public:
     virtual ~DestinoImpresion() = default;
@@ -48,8 +48,8 @@ class DestinoImpresion {
 
     /// Centimetres of the text in the current font.
     [[nodiscard]] virtual double TextWidth(std::string_view texto) const = 0;
-    /// Prints at the current place. With a line end X returns to 0 and Y moves a line's height down; without it
-    /// X moves along.
+    /// Prints at the current place. With a line end X returns to 0 and Y moves a line's height down; without
+    /// it X moves along.
     virtual void Print(std::string_view texto, bool finDeLinea) = 0;
     virtual void Line(double x1, double y1, double x2, double y2) = 0;
     /// A solid black box.

@@ -1,15 +1,17 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "printing/destino_impresion.h"
 
 namespace orvemo {
 
-/// The page engine of all reports. One object serves the whole run of the program: remembered font, print width
-/// and page number pass from one report to the next. Positions in centimetres.
+/// The page engine of all reports. One object serves the whole run of the program: remembered font, print
+/// width and page number pass from one report to the next. Positions in centimetres.
 class RutinasImpresion {
   public:
     /// `logo` heads every page.
@@ -23,8 +25,8 @@ class RutinasImpresion {
 
     /// Starts a page: the document's first with a number, the next after a page feed without.
     void ImprimeCabecera(std::optional<int> Pagina = {}, std::optional<std::string_view> Titulo = {});
-    /// Prints one line with its marks ($N bold, $S underline, $P new page, $$ a dollar) from X, then moves to X 0
-    /// and `Paso` down.
+    /// Prints one line with its marks ($N bold, $S underline, $P new page, $$ a dollar) from X, then moves to
+    /// X 0 and `Paso` down.
     void ImprimeTexto(std::string_view Texto, float X, float Paso);
     void PonPosicion(float X, float Y);
     void AvanzaLinea(float Paso);
@@ -39,7 +41,8 @@ class RutinasImpresion {
     /// Prints a fragment; with 0 line ends X moves along.
     void ImprimeTrozo(std::string_view Texto, int Saltos = 1);
 
-    /// The conclusions as every report ends with them: cut at each line end, a line each, at X 1 and step 0.6.
+    /// The conclusions as every report ends with them: cut at each line end, a line each, at X 1 and step
+    /// 0.6.
     void ImprimeConclusion(std::string_view Conclusion);
 
     [[nodiscard]] double AltoPagina() const { return AltoPagina_; }
@@ -49,6 +52,13 @@ class RutinasImpresion {
     [[nodiscard]] int NumeroPagina() const { return NumeroPagina_; }
 
   private:
+    void numeraPagina(std::optional<int> Pagina);
+    void mideHoja();
+    void pintaLogo();
+    void imprimeTitulo(std::string_view titulo);
+    void imprimeLoQueCabe(std::string_view texto);
+    std::size_t atiendeMarca(std::string_view texto, float X);
+
     DestinoImpresion* destino_ = nullptr;
     Imagen logo_;
     double AltoPagina_ = 0;
@@ -60,7 +70,8 @@ class RutinasImpresion {
 };
 
 /// A straight line on the target, unless an error was flagged for this print run.
-void TrazaLinea(DestinoImpresion& destino, double x1, double y1, double x2, double y2, bool errorImpresion = false);
+void TrazaLinea(DestinoImpresion& destino, double x1, double y1, double x2, double y2,
+                bool errorImpresion = false);
 
 /// The trimmed text with the filler appended while its printed width is less than `ancho` centimetres.
 [[nodiscard]] std::string RellenaAncho(const DestinoImpresion& destino, std::string_view texto,
