@@ -45,7 +45,7 @@ function(orvemo_datos_generados)
     add_custom_command(OUTPUT ${salidas}
         COMMAND ${CMAKE_COMMAND} -E rm -f ${salidas}
         # Font and toolkit caches that are never freed are no leak of the tool.
-        COMMAND ${CMAKE_COMMAND} -E env ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=offscreen
+        COMMAND ${CMAKE_COMMAND} -E env ASAN_OPTIONS=detect_leaks=0
                 $<TARGET_FILE:${ARG_HERRAMIENTA}> ${ARG_ARGUMENTOS}
         WORKING_DIRECTORY ${ORVEMO_DATOS}/${ARG_CARPETA}
         DEPENDS ${ARG_HERRAMIENTA} ${ARG_DEPENDE} VERBATIM)

@@ -1,0 +1,95 @@
+#include "presentacion.h"
+
+#include <QStringList>
+#include <array>
+
+#include "lienzo.h"
+#include "paleta.h"
+
+namespace orvemo::dibuja {
+
+namespace {
+
+constexpr int kAncho = 600;
+constexpr int kAlto = 360;
+constexpr double kMargen = 34;
+constexpr double kSangria = 22;
+
+struct Apartado {
+    const char* titulo;
+    const char* texto;
+};
+
+struct Pagina {
+    const char* fichero;
+    const char* titulo;
+    std::array<Apartado, 3> apartados;
+};
+
+constexpr std::array<Pagina, 3> kPaginas{{
+    {"presen1.bmp",
+     "El programa",
+     {{{"Qué hace",
+        "Calcula prestaciones de la Seguridad Social, retenciones del IRPF y nóminas, y explica cada "
+        "resultado con sus razones."},
+       {"Cómo se usa",
+        "Elija un cálculo en el menú, rellene el supuesto y pulse Siguiente. Las conclusiones se imprimen y "
+        "el supuesto se guarda."},
+       {"Año de las cifras",
+        "Cuantías, bases y tipos del año 2005. La escala de las retenciones es la del año 2004."}}}},
+    {"presen2.bmp",
+     "Nota del autor",
+     {{{"Es una simulación",
+        "Los resultados orientan. No son asesoramiento jurídico ni sustituyen la resolución del organismo "
+        "competente."},
+       {"Solo el año 2005",
+        "No recoge normas ni cuantías posteriores, y no debe usarse para calcular prestaciones de otros "
+        "años."},
+       {"Cada caso es distinto",
+        "El programa solo conoce los datos que se le dan. Ante una decisión importante, consulte a un "
+        "profesional."}}}},
+    {"presen3.bmp",
+     "Direcciones de interés",
+     {{{"Prestaciones y cotización",
+        "Los centros de atención e información y las administraciones de la Seguridad Social, y sus páginas "
+        "en Internet."},
+       {"Desempleo",
+        "La oficina del servicio público de empleo que corresponda al domicilio del trabajador."},
+       {"Impuestos y legislación",
+        "Las oficinas de la Agencia Tributaria y, para los textos legales, los diarios oficiales del Estado "
+        "y de cada comunidad."}}}},
+}};
+
+double dibujaApartado(Lienzo& lienzo, double y, const Apartado& apartado) {
+    QPainter& pincel = lienzo.pincel();
+    pincel.setBrush(kAcentoClaro);
+    pincel.drawEllipse(QPointF(kMargen + 5, y + 11), 5, 5);
+    const double x = kMargen + kSangria;
+    const QRectF caja(x, y, kAncho - kMargen - x, kAlto - y);
+    y += lienzo.parrafo(caja, QString::fromUtf8(apartado.titulo), 18, kTexto, QFont::Bold) + 2;
+    y += lienzo.parrafo({x, y, caja.width(), kAlto - y}, QString::fromUtf8(apartado.texto), 17,
+                        kTextoSecundario);
+    return y + 18;
+}
+
+void dibujaPagina(const Pagina& pagina) {
+    Lienzo lienzo(kAncho, kAlto, kPanel);
+    lienzo.pincel().setBrush(kAcento);
+    lienzo.pincel().drawRect(QRectF(0, 0, kAncho, 6));
+    lienzo.linea({kMargen, 28}, QString::fromUtf8(pagina.titulo), 28, kAcento, QFont::Bold);
+    double y = 84;
+    for (const Apartado& apartado : pagina.apartados) {
+        y = dibujaApartado(lienzo, y, apartado);
+    }
+    lienzo.guarda(QString::fromUtf8(pagina.fichero));
+}
+
+}  // namespace
+
+void dibujaPresentaciones() {
+    for (const Pagina& pagina : kPaginas) {
+        dibujaPagina(pagina);
+    }
+}
+
+}  // namespace orvemo::dibuja
