@@ -29,9 +29,9 @@ struct EntradaSupuesto {
     std::string nombre;  ///< trimmed, UTF-8
 };
 
-/// The cases of one calculator: records of one length, numbered from 1, in a file of the application directory.
-/// Nothing stays open between calls. Failures throw FicheroInaccesible; more records than kMaxRegistros throw
-/// DesbordeNumerico. A write that fails puts back what stood there before.
+/// The cases of one calculator: records of one length, numbered from 1, in a file of the application
+/// directory. Nothing stays open between calls. Failures throw FicheroInaccesible; more records than
+/// kMaxRegistros throw DesbordeNumerico. A write that fails puts back what stood there before.
 class ArchivoSupuestos {
   public:
     ArchivoSupuestos(Almacen& almacen, std::string nombre, std::size_t longitud);
@@ -39,7 +39,8 @@ class ArchivoSupuestos {
     [[nodiscard]] const std::string& nombre() const { return nombre_; }
     [[nodiscard]] std::size_t longitud() const { return longitud_; }
 
-    /// The file's length over the record's, an exact half to even: a partial last record counts past its half.
+    /// The file's length over the record's, an exact half to even: a partial last record counts past its
+    /// half.
     [[nodiscard]] int cuenta() const;
 
     /// The bytes of record r; those beyond the end of the file are NUL.
@@ -54,8 +55,8 @@ class ArchivoSupuestos {
     /// Writes a whole record, in use, over record r (from 1).
     void sobrescribe(int r, std::string bytes);
 
-    /// Writes over the first record in use whose 80 bytes of `NombreSupuesto` are those of `bytes`; nullopt, and
-    /// nothing written, without one.
+    /// Writes over the first record in use whose 80 bytes of `NombreSupuesto` are those of `bytes`; nullopt,
+    /// and nothing written, without one.
     std::optional<int> sobrescribePorNombre(std::string bytes);
 
     /// `BorraRegistro`: a head with `Estado` "*" and its names cleared; the rest keeps its contents.
@@ -71,7 +72,8 @@ class ArchivoSupuestos {
     std::size_t longitud_;
 };
 
-/// True when `a` stands before `b` in a Spanish alphabetical list: case and accents aside, ñ after n.
-[[nodiscard]] bool OrdenAlfabetico(std::string_view a, std::string_view b);
+/// The list in Spanish alphabetical order: case and accents aside, ñ after n, equals in the order of their
+/// records.
+[[nodiscard]] std::vector<EntradaSupuesto> OrdenaAlfabeticamente(std::vector<EntradaSupuesto> lista);
 
 }  // namespace orvemo

@@ -30,7 +30,9 @@ class AlmacenMemoria final : public Almacen {
     }
     std::string& operator[](std::string_view nombre) { return ficheros[clave(nombre)]; }
 
-    [[nodiscard]] bool existe(std::string_view nombre) const override { return ficheros.contains(clave(nombre)); }
+    [[nodiscard]] bool existe(std::string_view nombre) const override {
+        return ficheros.contains(clave(nombre));
+    }
 
     [[nodiscard]] std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) override {
         if (soloLectura && acceso == Acceso::Escritura) {

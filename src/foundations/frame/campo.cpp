@@ -43,7 +43,10 @@ void Campo::refresca() const {
 }
 
 void Campo::ponTexto(std::string texto) {
-    if (esFecha() && EsFecha(texto)) fechaValida_ = texto;
+    if (esFecha()) {
+        fechaAsentada_ = texto;
+        if (EsFecha(texto)) fechaValida_ = texto;
+    }
     if (texto == texto_) return;
     texto_ = std::move(texto);
     refresca();

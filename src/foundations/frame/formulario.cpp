@@ -16,6 +16,7 @@ Formulario::Formulario(Entorno& entorno) : entorno_{entorno} {}
 // -------------------------------------------------------------------------------------------------
 
 Campo& Formulario::nuevo(DefCampo def) {
+    const MientrasCarga mientras{Cargando};
     return campos_.emplace_back(*this, std::move(def));
 }
 
@@ -177,8 +178,11 @@ void Formulario::elige(Campo& campo, int indice) {
 
 void Formulario::eligeFecha(Campo& campo, Fecha fecha) {
     protegido([&] {
-        campo.ponTexto(FormatoFecha(fecha, "dd-MM-yyyy"));
-        if (campo.asientaFecha()) reacciona(campo);
+        campo.texto_ = FormatoFecha(fecha, "dd-MM-yyyy");
+        campo.fechaValida_ = campo.texto_;
+        const bool otraFecha = campo.asientaFecha();
+        campo.refresca();
+        if (otraFecha) reacciona(campo);
     });
 }
 
