@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the program and starts it: ./run.sh [APPLICATION_DIRECTORY]
+#
+# The application directory holds the program beside its files. It is made if it isn't there and brought up to date
+# if it is; the user's cases and config.nom in it stay as they are.
+set -euo pipefail
+destino=$(realpath -m "${1:-$(dirname "$0")/build/release/orvemo}")
+cd "$(dirname "$0")"
+. scripts/paquetes.sh
+
+# The cases that ship, by the calculator that reads them.
+EJEMPLOS=(
+    "jubilacion      ejemplos/jubila.nom"
+    "incapacidad     ejemplos/invalid.nom"
+    "muerte          ejemplos/muerte.nom"
+    "desempleo       ejemplos/desemp.nom"
+    "it              ejemplos/ILT.nom"
+    "maternidad      ejemplos/Mater.nom"
+    "riesgo          ejemplos/RiesgoEm.nom"
+    "nocontributiva  nocont.nom"
+    "familiar        ejemplos/Familiar.nom"
+    "capital         ejemplos/Capit.nom"
+    "irpf            ejemplos/RIRPF.nom"
+    "nomina          ejemplos/nominas.nom"
+)
+
+calcula_ejemplos() {
+    local calculadora fichero estado=0
+    for ejemplo in "${EJEMPLOS[@]}"; do
+        read -r calculadora fichero <<<"$ejemplo"
+        if [ -f "$destino/$fichero" ]; then
+            printf '\n=== %s: %s\n\n' "$calculadora" "$fichero"
+            "$destino/orvemo-lote" "$calculadora" "$destino/$fichero" --datos "$destino" || estado=1
+        fi
+    done
+    return $estado
+}
+
+paquetes=("${PAQUETES_PROGRAMA[@]}")
+# A pure Wayland session needs the toolkit's plug-in for it.
+[ -n "${DISPLAY:-}" ] || [ -z "${WAYLAND_DISPLAY:-}" ] || paquetes+=(qt6-wayland)
+instala_paquetes "${paquetes[@]}"
+
+construye release
+cmake --install build/release --strip --prefix "$destino" >/dev/null
+avisa "Application directory: $destino"
+
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    exec "$destino/PENSIONES_ORVEMO"
+fi
+avisa "There is no display to start PENSIONES_ORVEMO on: these are the conclusions of the cases that ship."
+calcula_ejemplos
