@@ -1,0 +1,61 @@
+#include "benefits/declaraciones.h"
+
+#include <utility>
+
+namespace orvemo {
+
+DefCampo texto(std::string nombre, std::string rotulo, std::string defecto, Grupo* grupo) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .grupo = grupo,
+            .defecto = std::move(defecto)};
+}
+
+DefCampo decimal(std::string nombre, std::string rotulo, Reaccion alSalir, Grupo* grupo) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .grupo = grupo,
+            .defecto = "0",
+            .filtro = TeclaNumero,
+            .alSalir = std::move(alSalir)};
+}
+
+DefCampo entero(std::string nombre, std::string rotulo, Reaccion alSalir, Grupo* grupo, std::string defecto) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .grupo = grupo,
+            .defecto = std::move(defecto),
+            .filtro = TeclaDigito,
+            .alSalir = std::move(alSalir)};
+}
+
+DefCampo lista(std::string nombre, std::string rotulo, std::vector<std::string> opciones,
+               Reaccion alCambiar) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .clase = Clase::Lista,
+            .opciones = std::move(opciones),
+            .alCambiar = std::move(alCambiar)};
+}
+
+DefCampo fechaElegida(std::string nombre, std::string rotulo, Reaccion alCambiar, Grupo* grupo) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .clase = Clase::FechaSelector,
+            .grupo = grupo,
+            .alCambiar = std::move(alCambiar)};
+}
+
+DefCampo fechaEscrita(std::string nombre, std::string rotulo, Reaccion alCambiar) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .clase = Clase::FechaEscrita,
+            .alCambiar = std::move(alCambiar)};
+}
+
+DefCampo alLado(DefCampo def) {
+    def.mismaLinea = true;
+    return def;
+}
+
+}  // namespace orvemo
