@@ -5,6 +5,8 @@
 #include <string_view>
 
 #include "benefits/desemp_frm.h"
+#include "shell/fondo_frm.h"
+#include "shell/presenta_frm.h"
 
 namespace orvemo {
 
@@ -22,6 +24,8 @@ struct PantallaDisponible {
 
 constexpr std::array kDisponibles{
     PantallaDisponible{"DesempFrm", crea<DesempFrm>},
+    PantallaDisponible{"FondoFrm", crea<FondoFrm>},
+    PantallaDisponible{"PresentaFrm", crea<PresentaFrm>},
 };
 
 }  // namespace

@@ -49,21 +49,26 @@ std::string sinRelleno(const Texto<N>& texto) {
 
 }  // namespace
 
-ConfigFrm::ConfigFrm(Entorno& entorno) : Formulario{entorno} {
+ConfigFrm::ConfigFrm(Entorno& entorno)
+    : Formulario{entorno},
+      BotonCDROM{nuevo({.nombre = "BotonCDROM",
+                        .clase = Clase::Boton,
+                        .pantalla = kBarra,
+                        .alPulsar = [this](Campo&) { genera(); },
+                        .ayuda = "Generar fichero de configuración"})},
+      BotonExit{nuevo({.nombre = "BotonExit",
+                       .clase = Clase::Boton,
+                       .pantalla = kBarra,
+                       .alPulsar = [this](Campo&) { oculta(); },
+                       .ayuda = "Volver al menú principal",
+                       .sinComprobacion = true})},
+      TituloPrograma{nuevo({.nombre = "Titulo", .rotulo = "Título del programa:", .largo = kMaximoTexto})} {
     ponTitulos("CONFIGURACION DEL PROGRAMA", "CONFIGURACION DEL PROGRAMA");
-    nuevo({.nombre = "BotonCDROM",
-           .clase = Clase::Boton,
-           .pantalla = kBarra,
-           .alPulsar = [this](Campo&) { genera(); },
-           .ayuda = "Generar fichero de configuración"});
-    nuevo({.nombre = "BotonExit",
-           .clase = Clase::Boton,
-           .pantalla = kBarra,
-           .alPulsar = [this](Campo&) { oculta(); },
-           .ayuda = "Volver al menú principal",
-           .sinComprobacion = true});
-    titulo_ = &nuevo({.nombre = "Titulo", .rotulo = "Título del programa:", .largo = kMaximoTexto});
-    Grupo& tabla = nuevoGrupo({.nombre = "Tabla",
+    declaraTabla();
+}
+
+void ConfigFrm::declaraTabla() {
+    Grupo& tabla = nuevoGrupo({.nombre = "Opciones",
                                .disposicion = Disposicion::Tabla,
                                .columnas = 3,
                                .encabezados = {"Opciones activadas", "Orden/Obra alternativa", ""}});
@@ -111,7 +116,7 @@ void ConfigFrm::Inicia() {
 void ConfigFrm::lee() {
     ConfigNom config{entorno().almacen};
     registro_ = config.lee(kRegistroTitulo);
-    titulo_->ponTexto(sinRelleno(registro_.Texto));
+    TituloPrograma.ponTexto(sinRelleno(registro_.Texto));
     for (int i = 0; i < kOpcionesConfig; ++i) {
         registro_ = config.lee(registroDeOpcion(i));
         muestraOpcion(i);
@@ -140,7 +145,7 @@ void ConfigFrm::genera() {
 
 void ConfigFrm::tomaTitulo() {
     registro_.Numero = kNumeroTitulo;
-    registro_.Texto.asigna(titulo_->texto());
+    registro_.Texto.asigna(TituloPrograma.texto());
 }
 
 void ConfigFrm::tomaOpcion(int indice) {

@@ -25,6 +25,7 @@ class ConfigFrm final : public Formulario {
     };
 
     [[nodiscard]] Fila fila(int indice);
+    void declaraTabla();
     void declaraFila(int indice, Grupo& tabla);
     void lee();
     void muestraOpcion(int indice);
@@ -32,10 +33,14 @@ class ConfigFrm final : public Formulario {
     void tomaTitulo();
     void tomaOpcion(int indice);
 
-    Campo* titulo_;
     /// The one buffer that every record is read into and written from: record 1 is written with the `Activa`
     /// and the `Orden` that stand in it.
     RegistroConfig registro_;
+
+  public:
+    Campo& BotonCDROM;
+    Campo& BotonExit;
+    Campo& TituloPrograma;  ///< the control `Titulo`
 };
 
 }  // namespace orvemo

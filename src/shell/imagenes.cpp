@@ -5,7 +5,7 @@
 namespace orvemo {
 
 std::string ImagenPresente(const Almacen& almacen, std::string nombre) {
-    if (!almacen.existe(nombre)) throw FicheroInaccesible{nombre, "no está en la carpeta del programa"};
+    if (!almacen.existe(nombre)) throw FicheroInaccesible{nombre, "no existe"};
     return nombre;
 }
 

@@ -7,7 +7,6 @@
 #include "foundations/values/fallos.h"
 #include "foundations/values/numeros.h"
 #include "shell/config_frm.h"
-#include "shell/imagenes.h"
 
 namespace orvemo {
 

@@ -9,12 +9,12 @@
 #include "foundations/frame/entorno.h"
 #include "foundations/frame/formulario.h"
 #include "shell/config_nom.h"
+#include "shell/imagenes.h"
 #include "shell/menu.h"
 
 namespace orvemo {
 
 inline constexpr const char* kFotoPortada = "portada.bmp";
-inline constexpr const char* kFotoLogo = "logo.bmp";
 /// How long the cover stays.
 inline constexpr std::chrono::milliseconds kDuracionPortada{1000};
 /// File whose mere presence opens the configuration screen.

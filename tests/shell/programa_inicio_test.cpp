@@ -1,0 +1,269 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "shell/apoyo_shell.h"
+
+namespace orvemo::pruebas {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::string kInformacionYFin[] = {"Información (derecha 7)", "&Fin del Programa (derecha 8)"};
+
+class ProgramaInicio : public testing::Test {
+  protected:
+    ProgramaInicio() { ponFotos(mundo.almacen); }
+
+    EntornoFalso mundo;
+    VistaProgramaFalsa vista;
+    Programa programa{mundo.entorno, {}, vista};
+};
+
+TEST_F(ProgramaInicio, DaSusPasosEnOrden) {
+    mundo.almacen["config.nom"] = fichero("  PENSIONES 2005 ", {});
+    mundo.valores = {"", true, 1, 1, false};
+    programa.Inicia();
+
+    EXPECT_THAT(vista.pedidos, ElementsAre("portada portada.bmp, 1000 ms", "foto portada.bmp",
+                                           "logo logo.bmp", "menú centrado", "título \"PENSIONES 2005\""));
+    EXPECT_EQ(mundo.valores.TituloPrograma, "PENSIONES 2005");
+    EXPECT_EQ(mundo.valores.LiquidoAnterior, 915);
+    EXPECT_EQ(mundo.valores.PagasAnterior, 2);
+    EXPECT_FALSE(mundo.valores.VerBaseActual);
+    EXPECT_FALSE(mundo.valores.FinPrograma);
+    EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
+}
+
+TEST_F(ProgramaInicio, UnaFotoQueFaltaLoParaEnElPrimerPasoQueLaNecesita) {
+    struct Caso {
+        const char* foto;
+        std::vector<std::string> pasos;
+    };
+    const Caso casos[] = {
+        {"portada.bmp", {}},
+        {"logo.bmp", {"portada portada.bmp, 1000 ms", "foto portada.bmp"}},
+    };
+    for (const Caso& caso : casos) {
+        ponFotos(mundo.almacen);
+        mundo.almacen.ficheros.erase(caso.foto);
+        vista.pedidos.clear();
+        try {
+            programa.Inicia();
+            ADD_FAILURE() << "started without " << caso.foto;
+        } catch (const FicheroInaccesible& fallo) {
+            EXPECT_EQ(fallo.nombre, caso.foto);
+        }
+        EXPECT_EQ(vista.pedidos, caso.pasos) << caso.foto;
+    }
+}
+
+TEST_F(ProgramaInicio, LasOpcionesDelMenuSalenDeConfigNom) {
+    struct Caso {
+        const char* cuento;
+        std::vector<std::pair<int, Opcion>> opciones;
+        std::vector<std::string> vistas;  // before "Información" and "&Fin del Programa"
+    };
+    const Caso casos[] = {
+        {"nothing is active: only what is always there", {}, {}},
+        {"active options keep their default places",
+         {{0, {-1}}, {6, {-1}}, {7, {-1}}, {12, {-1}}},
+         {"Jubilación (izquierda 1)", "Maternidad (izquierda 7)", "Incapacidad Temporal (derecha 1)",
+          "Fondo bibliográfico (derecha 6)"}},
+        {"any truth value but 0 is true",
+         {{5, {1}}, {6, {256}}},
+         {"Desempleo (izquierda 6)", "Maternidad (izquierda 7)"}},
+        {"8 is the left column's last row, 9 the right one's first",
+         {{0, {-1, "", "8"}}, {1, {-1, "", "9"}}, {2, {-1, "", "16"}}},
+         {"Jubilación (izquierda 8)", "Incapacidad Permanente (derecha 1)",
+          "Muerte y Supervivencia (derecha 8)"}},
+        {"two options may share a place",
+         {{3, {-1, "", "2"}}, {4, {-1, "", " 2"}}},
+         {"Jubilación e Invalidez no Contributiva (izquierda 2)",
+          "Prestaciones Familiares no ContrIbutivas (izquierda 2)"}},
+        {"inactive with a text is on view, and moves too",
+         {{11, {0, "En la obra", "1"}}},
+         {"Retenciones IRPF (izquierda 1)"}},
+        {"inactive without a text is hidden", {{11, {0, "   ", "1"}}}, {}},
+        {"a place off the panel is a place",
+         {{8, {-1, "", "-9"}}, {9, {-1, "", "99"}}},
+         {"Capitalización de pensiones (izquierda -9)", "Cálculo de Nóminas (derecha 91)"}},
+        {"0, blanks, letters and less than half a row are no order",
+         {{0, {-1, "", "0"}}, {1, {-1, "", "  "}}, {2, {-1, "", "ab"}}, {3, {-1, "", ",5"}}},
+         {"Jubilación (izquierda 1)", "Incapacidad Permanente (izquierda 2)",
+          "Muerte y Supervivencia (izquierda 3)", "Jubilación e Invalidez no Contributiva (izquierda 4)"}},
+    };
+    for (const Caso& caso : casos) {
+        Programa otro{mundo.entorno, {}, vista};
+        mundo.almacen["config.nom"] = fichero("x", caso.opciones);
+        otro.Inicia();
+        std::vector<std::string> esperadas = caso.vistas;
+        esperadas.insert(esperadas.end(), std::begin(kInformacionYFin), std::end(kInformacionYFin));
+        EXPECT_EQ(aLaVista(otro), esperadas) << caso.cuento;
+    }
+}
+
+TEST_F(ProgramaInicio, RiesgoEmbarazoTieneElUltimoRegistro) {
+    mundo.almacen["config.nom"] = fichero("x", {{14, {-1, "", "10"}}});
+    programa.Inicia();
+    EXPECT_THAT(aLaVista(programa), ElementsAre("Información (derecha 7)", "Riesgo Embarazo (derecha 2)",
+                                                "&Fin del Programa (derecha 8)"));
+}
+
+TEST_F(ProgramaInicio, ElRegistroQuinceSoloEnciendeVerBaseActual) {
+    mundo.almacen["config.nom"] = fichero("x", {{13, {-1, "No debe verse", "1"}}});
+    programa.Inicia();
+    EXPECT_TRUE(mundo.valores.VerBaseActual);
+    const OpcionMenu& informacion = programa.opciones()[13];
+    EXPECT_EQ(informacion.texto, "");
+    EXPECT_EQ(informacion.puesto, (Puesto{Columna::Derecha, 7}));
+
+    mundo.almacen["config.nom"] = fichero("x", {{13, {0, "Texto", "1"}}});
+    programa.Inicia();
+    EXPECT_FALSE(mundo.valores.VerBaseActual);
+}
+
+TEST_F(ProgramaInicio, ConfigNomEstropeadoNoImpideEmpezar) {
+    const std::string entero = fichero("PENSIONES", {{0, {-1}}, {5, {-1}}, {14, {-1}}});
+    struct Caso {
+        const char* cuento;
+        std::string contenido;
+        std::string titulo;
+        std::vector<std::string> vistas;
+    };
+    const Caso casos[] = {
+        {"empty", "", "", {kInformacionYFin[0], kInformacionYFin[1]}},
+        {"cut within the title", entero.substr(0, 10), "PENS", {kInformacionYFin[0], kInformacionYFin[1]}},
+        {"cut behind the mark of option 5: the rest of it reads as blank",
+         entero.substr(0, 6 * 256 + 6),
+         "PENSIONES",
+         {"Jubilación (izquierda 1)", "Desempleo (izquierda 6)", kInformacionYFin[0], kInformacionYFin[1]}},
+        {"cut within the mark of option 5",
+         entero.substr(0, 6 * 256 + 4),
+         "PENSIONES",
+         {"Jubilación (izquierda 1)", kInformacionYFin[0], kInformacionYFin[1]}},
+        {"nothing but NULs", std::string(5000, '\0'), "", {kInformacionYFin[0], kInformacionYFin[1]}},
+        {"longer than it should be",
+         entero + std::string(100000, 'x'),
+         "PENSIONES",
+         {"Jubilación (izquierda 1)", "Desempleo (izquierda 6)", kInformacionYFin[0],
+          "Riesgo Embarazo (izquierda 8)", kInformacionYFin[1]}},
+    };
+    for (const Caso& caso : casos) {
+        Programa otro{mundo.entorno, {}, vista};
+        mundo.almacen["config.nom"] = caso.contenido;
+        otro.Inicia();
+        EXPECT_EQ(mundo.valores.TituloPrograma, caso.titulo) << caso.cuento;
+        EXPECT_EQ(aLaVista(otro), caso.vistas) << caso.cuento;
+    }
+    EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
+}
+
+TEST_F(ProgramaInicio, ConfigNomAusenteSeCreaVacio) {
+    programa.Inicia();
+    EXPECT_TRUE(mundo.almacen.existe("config.nom"));
+    EXPECT_EQ(mundo.almacen["config.nom"], "");
+    EXPECT_THAT(aLaVista(programa), ElementsAre(kInformacionYFin[0], kInformacionYFin[1]));
+    EXPECT_EQ(vista.pedidos.back(), "título \"\"");
+}
+
+/// A disk that gives so many reads and fails from then on.
+class AlmacenQueFalla final : public Almacen {
+  public:
+    AlmacenQueFalla(AlmacenMemoria& almacen, int lecturas) : almacen_{almacen}, lecturas_{lecturas} {}
+
+    [[nodiscard]] bool existe(std::string_view nombre) const override { return almacen_.existe(nombre); }
+    [[nodiscard]] std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) override {
+        if (lecturas_ < 0) throw FicheroInaccesible{std::string{nombre}, "no se puede abrir"};
+        return std::make_unique<Abierto>(almacen_.abre(nombre, acceso), lecturas_);
+    }
+    [[nodiscard]] std::string leeTodo(std::string_view nombre) const override {
+        return almacen_.leeTodo(nombre);
+    }
+    void sustituye(std::string_view, std::string_view) override {}
+    [[nodiscard]] std::filesystem::path ruta(std::string_view nombre) const override {
+        return almacen_.ruta(nombre);
+    }
+
+  private:
+    class Abierto final : public FicheroAleatorio {
+      public:
+        Abierto(std::unique_ptr<FicheroAleatorio> bueno, int lecturas)
+            : bueno_{std::move(bueno)}, lecturas_{lecturas} {}
+        [[nodiscard]] std::uint64_t longitud() override { return bueno_->longitud(); }
+        std::size_t lee(std::uint64_t posicion, std::span<char> destino) override {
+            if (lecturas_-- == 0) throw FicheroInaccesible{"config.nom", "el disco falla"};
+            return bueno_->lee(posicion, destino);
+        }
+        std::size_t escribe(std::uint64_t, std::span<const char>) override { return 0; }
+        bool corta(std::uint64_t) override { return false; }
+
+      private:
+        std::unique_ptr<FicheroAleatorio> bueno_;
+        int lecturas_;
+    };
+
+    AlmacenMemoria& almacen_;
+    int lecturas_;
+};
+
+TEST_F(ProgramaInicio, UnaLecturaQueFallaDejaLoLeidoHastaAhi) {
+    std::vector<std::pair<int, Opcion>> todas;
+    for (int i = 0; i < 15; ++i) todas.push_back({i, {-1}});
+    mundo.almacen["config.nom"] = fichero("PENSIONES", todas);
+
+    for (int lecturas = -1; lecturas <= 16; ++lecturas) {
+        AlmacenQueFalla almacen{mundo.almacen, lecturas};
+        Entorno entorno{mundo.mensajes, mundo.reloj, almacen, mundo.impresora, mundo.rutinas, mundo.valores};
+        mundo.valores = {};
+        Programa otro{entorno, {}, vista};
+        otro.Inicia();
+
+        EXPECT_EQ(mundo.valores.TituloPrograma, lecturas > 0 ? "PENSIONES" : "") << lecturas;
+        EXPECT_EQ(mundo.valores.VerBaseActual, lecturas > 14) << lecturas;
+        for (int i = 0; i < 13; ++i) {
+            EXPECT_EQ(otro.opciones()[static_cast<std::size_t>(i)].visible, lecturas > i + 1)
+                << lecturas << ' ' << i;
+        }
+        EXPECT_TRUE(otro.opciones()[14].visible) << "nothing but its own record hides it: " << lecturas;
+    }
+    EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
+}
+
+/// A directory of its own, and the current one put back at the end.
+class CarpetaTemporal {
+  public:
+    CarpetaTemporal() : antes_{std::filesystem::current_path()} {
+        std::string plantilla = (std::filesystem::temp_directory_path() / "orvemo-XXXXXX").string();
+        carpeta_ = mkdtemp(plantilla.data());
+    }
+    ~CarpetaTemporal() {
+        std::filesystem::current_path(antes_);
+        std::filesystem::remove_all(carpeta_);
+    }
+    CarpetaTemporal(const CarpetaTemporal&) = delete;
+    CarpetaTemporal& operator=(const CarpetaTemporal&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& ruta() const { return carpeta_; }
+
+  private:
+    std::filesystem::path antes_;
+    std::filesystem::path carpeta_;
+};
+
+TEST_F(ProgramaInicio, LaCarpetaDelProgramaPasaASerLaActual) {
+    const CarpetaTemporal carpeta;
+    for (const char* foto : {"Portada.BMP", "logo.bmp"}) std::ofstream{carpeta.ruta() / foto} << "BM";
+    DirectorioAplicacion almacen{carpeta.ruta()};
+    Entorno entorno{mundo.mensajes, mundo.reloj, almacen, mundo.impresora, mundo.rutinas, mundo.valores};
+
+    Programa{entorno, {}, vista}.Inicia();
+
+    EXPECT_TRUE(std::filesystem::equivalent(std::filesystem::current_path(), carpeta.ruta()));
+    EXPECT_TRUE(std::filesystem::is_empty(carpeta.ruta() / "config.nom"));
+}
+
+}  // namespace
+}  // namespace orvemo::pruebas
