@@ -1,11 +1,11 @@
 #include "foundations/values/formatos.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <optional>
 
+#include "foundations/values/decimal.h"
 #include "foundations/values/fallos.h"
 #include "foundations/values/numeros.h"
 #include "foundations/values/textos.h"
@@ -13,81 +13,7 @@
 namespace orvemo {
 namespace {
 
-/// Digits of a double that mean something in decimal.
-constexpr int kCifrasSignificativas = 15;
 constexpr int kCifrasPorGrupo = 3;
-
-/// A number as decimal text: d0 . d1 d2 … × 10^exponente, d0 not 0 unless the number is.
-struct Decimal {
-    std::array<char, kCifrasSignificativas> cifras{};
-    int cuantas = 0;  ///< digits that count; those after them are 0
-    int exponente = 0;
-    bool negativo = false;
-
-    [[nodiscard]] bool esCero() const { return cuantas == 0; }
-
-    /// The digit that stands for 10^potencia.
-    [[nodiscard]] char cifra(int potencia) const {
-        const int i = exponente - potencia;
-        return i >= 0 && i < cuantas ? cifras[static_cast<std::size_t>(i)] : '0';
-    }
-    /// Digits before the decimal mark.
-    [[nodiscard]] int enteras() const { return esCero() || exponente < 0 ? 0 : exponente + 1; }
-    /// Digits behind the decimal mark.
-    [[nodiscard]] int decimales() const { return std::max(0, cuantas - 1 - exponente); }
-
-    void quitaCerosFinales() {
-        while (cuantas > 0 && cifras[static_cast<std::size_t>(cuantas - 1)] == '0') --cuantas;
-    }
-};
-
-/// The 15 significant digits of a finite number.
-Decimal aDecimal(double valor) {
-    Decimal decimal;
-    decimal.negativo = valor < 0;
-    char texto[kCifrasSignificativas + 8];  // d.dddddddddddddde-308
-    const auto fin = std::to_chars(texto, texto + sizeof texto, std::abs(valor),
-                                   std::chars_format::scientific, kCifrasSignificativas - 1);
-    decimal.cifras[0] = texto[0];
-    std::copy_n(texto + 2, kCifrasSignificativas - 1, decimal.cifras.begin() + 1);
-    decimal.cuantas = kCifrasSignificativas;
-    decimal.quitaCerosFinales();
-    const char* exponente = texto + kCifrasSignificativas + 2;  // behind the "e"
-    std::from_chars(exponente + (*exponente == '+' ? 1 : 0), fin.ptr, decimal.exponente);
-    return decimal;
-}
-
-/// Adds one to the last digit kept, carrying; 99 becomes 1 of the next power.
-void suma1(Decimal& decimal) {
-    for (int i = decimal.cuantas - 1; i >= 0; --i) {
-        char& cifra = decimal.cifras[static_cast<std::size_t>(i)];
-        if (cifra != '9') {
-            ++cifra;
-            decimal.cuantas = i + 1;
-            return;
-        }
-    }
-    decimal.cifras[0] = '1';
-    decimal.cuantas = 1;
-    ++decimal.exponente;
-}
-
-/// Leaves so many decimals, half away from zero.
-void redondea(Decimal& decimal, int decimales) {
-    const int quedan = decimal.exponente + 1 + decimales;
-    if (quedan >= decimal.cuantas) return;
-    const bool haciaArriba = quedan >= 0 && decimal.cifras[static_cast<std::size_t>(quedan)] >= '5';
-    decimal.cuantas = std::max(quedan, 0);
-    if (!haciaArriba) {
-        decimal.quitaCerosFinales();
-    } else if (quedan == 0) {
-        decimal.cifras[0] = '1';
-        decimal.cuantas = 1;
-        ++decimal.exponente;
-    } else {
-        suma1(decimal);
-    }
-}
 
 /// What a pattern asks for.
 struct Patron {
@@ -152,7 +78,7 @@ void escribeDecimales(std::string& salida, const Decimal& decimal, const Patron&
 
 std::string escribe(const Decimal& decimal, const Patron& patron, const AjustesRegionales& ajustes) {
     std::string salida{patron.antes};
-    if (decimal.negativo && !decimal.esCero()) salida += '-';
+    if (decimal.esNegativo()) salida += '-';
     escribeEnteras(salida, decimal, patron, ajustes.marcaMiles);
     escribeDecimales(salida, decimal, patron, ajustes.marcaDecimal);
     salida += patron.despues;
@@ -163,7 +89,7 @@ std::string escribe(const Decimal& decimal, const Patron& patron, const AjustesR
 std::string conCeros(int numero, int cuantos) {
     Patron patron;
     patron.enterasMinimas = cuantos;
-    return escribe(aDecimal(numero), patron, kEspana);
+    return escribe(Decimal(numero), patron, kEspana);
 }
 
 /// 0 for Monday.
@@ -246,14 +172,14 @@ std::string FormatoNumero(double valor, std::string_view patron, const AjustesRe
     if (!std::isfinite(valor)) return {};
     if (patron.find_first_of("#0") == std::string_view::npos) return std::string{patron};
     const Patron pedido = leePatron(patron);
-    Decimal decimal = aDecimal(valor);
-    redondea(decimal, pedido.decimalesMaximos);
+    Decimal decimal{valor};
+    decimal.redondea(pedido.decimalesMaximos);
     return escribe(decimal, pedido, ajustes);
 }
 
 std::string TextoPlano(double valor, const AjustesRegionales& ajustes) {
     if (!std::isfinite(valor)) return {};
-    const Decimal decimal = aDecimal(valor);
+    const Decimal decimal{valor};
     Patron patron;
     patron.enterasMinimas = 1;
     patron.marcaDecimal = decimal.decimales() > 0;
