@@ -31,6 +31,7 @@ void Decimal::redondea(int decimales) {
 
 void Decimal::quitaCerosFinales() {
     while (cuantas_ > 0 && cifras_[static_cast<std::size_t>(cuantas_ - 1)] == '0') --cuantas_;
+    if (esCero()) exponente_ = 0;
 }
 
 /// Adds one to the last digit kept. Nines carry: 9,99 becomes 1 of the next power.
