@@ -1,0 +1,114 @@
+#include "toolkit/hoja.h"
+
+#include <QFontMetricsF>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <algorithm>
+#include <map>
+
+#include "foundations/values/fallos.h"
+#include "toolkit/tipos_letra.h"
+
+namespace orvemo {
+
+namespace {
+
+constexpr double kCentimetrosPorPulgada = 2.54;
+constexpr double kGrosorRegla = 0.02;  // cm
+
+struct Extremos {
+    double desde, hasta;
+};
+
+/// Where each line of text begins and ends, by its height.
+[[nodiscard]] std::map<double, Extremos> renglones(const Hoja& hoja) {
+    std::map<double, Extremos> extremos;
+    for (const Hoja::Texto& texto : hoja.textos) {
+        const Extremos propios{texto.x, texto.x + texto.ancho};
+        Extremos& renglon = extremos.try_emplace(texto.y, propios).first->second;
+        renglon.desde = std::min(renglon.desde, propios.desde);
+        renglon.hasta = std::max(renglon.hasta, propios.hasta);
+    }
+    return extremos;
+}
+
+void condensa(Hoja::Texto& texto, const Extremos& renglon, double limite) {
+    if (renglon.hasta <= limite || renglon.desde >= limite) return;
+    texto.estrechez = (limite - renglon.desde) / (renglon.hasta - renglon.desde);
+    texto.x = renglon.desde + (texto.x - renglon.desde) * texto.estrechez;
+}
+
+void recorta(Hoja::Rectangulo& trazo, double limite) {
+    trazo.x1 = std::min(trazo.x1, limite);
+    trazo.x2 = std::min(trazo.x2, limite);
+}
+
+/// A painter that is told everything in centimetres.
+class Pintor {
+  public:
+    Pintor(QPagedPaintDevice& dispositivo, Margen margen) : margen_{margen} {
+        if (!pintor_.begin(&dispositivo)) throw FalloImpresion{"la impresora no acepta el documento"};
+        puntosX_ = dispositivo.logicalDpiX() / kCentimetrosPorPulgada;
+        puntosY_ = dispositivo.logicalDpiY() / kCentimetrosPorPulgada;
+        pintor_.setPen(QPen{Qt::black, kGrosorRegla * puntosX_, Qt::SolidLine, Qt::FlatCap});
+        pintor_.setRenderHint(QPainter::SmoothPixmapTransform);
+    }
+
+    void pinta(const Hoja& hoja) {
+        for (const Hoja::Foto& foto : hoja.fotos) pintor_.drawImage(marco(foto.sitio), foto.imagen);
+        for (const Hoja::Rectangulo& caja : hoja.cajas) pintor_.fillRect(marco(caja), Qt::black);
+        for (const Hoja::Rectangulo& linea : hoja.lineas) {
+            pintor_.drawLine(punto(linea.x1, linea.y1), punto(linea.x2, linea.y2));
+        }
+        for (const Hoja::Texto& texto : hoja.textos) escribe(texto);
+    }
+
+    void termina() {
+        if (!pintor_.end()) throw FalloImpresion{"la impresora no ha terminado el documento"};
+    }
+
+  private:
+    [[nodiscard]] QPointF punto(double x, double y) const {
+        return {(x + margen_.x) * puntosX_, (y + margen_.y) * puntosY_};
+    }
+
+    [[nodiscard]] QRectF marco(const Hoja::Rectangulo& sitio) const {
+        return QRectF{punto(sitio.x1, sitio.y1), punto(sitio.x2, sitio.y2)}.normalized();
+    }
+
+    /// The place of a text is its top; painters want its base line.
+    void escribe(const Hoja::Texto& texto) {
+        const QFont letra = tipoDeLetra(texto.fuente);
+        pintor_.save();
+        pintor_.setFont(letra);
+        pintor_.translate(punto(texto.x, texto.y));
+        pintor_.scale(texto.estrechez, 1);
+        pintor_.drawText(QPointF{0, QFontMetricsF{letra, pintor_.device()}.ascent()}, texto.texto);
+        pintor_.restore();
+    }
+
+    QPainter pintor_;
+    Margen margen_;
+    double puntosX_ = 0;
+    double puntosY_ = 0;
+};
+
+}  // namespace
+
+void encaja(Hoja& hoja, double limite) {
+    const std::map<double, Extremos> extremos = renglones(hoja);
+    for (Hoja::Texto& texto : hoja.textos) condensa(texto, extremos.at(texto.y), limite);
+    for (Hoja::Rectangulo& linea : hoja.lineas) recorta(linea, limite);
+    for (Hoja::Rectangulo& caja : hoja.cajas) recorta(caja, limite);
+}
+
+void pinta(const std::vector<Hoja>& hojas, Margen margen, QPagedPaintDevice& dispositivo) {
+    Pintor pintor{dispositivo, margen};
+    for (std::size_t i = 0; i < hojas.size(); ++i) {
+        if (i > 0 && !dispositivo.newPage()) throw FalloImpresion{"la impresora no da otra hoja"};
+        pintor.pinta(hojas[i]);
+    }
+    pintor.termina();
+}
+
+}  // namespace orvemo

@@ -1,0 +1,45 @@
+#include "toolkit/impresora_pdf.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <utility>
+
+#include "foundations/values/fallos.h"
+
+namespace orvemo {
+
+namespace {
+
+constexpr int kPuntosPorPulgada = 1200;
+
+void guarda(const std::filesystem::path& ruta, const QByteArray& contenido) {
+    QSaveFile fichero{QFile::decodeName(ruta.c_str())};
+    const bool guardado = fichero.open(QIODevice::WriteOnly) &&
+                          fichero.write(contenido) == contenido.size() && fichero.commit();
+    if (!guardado) throw FalloImpresion{"no se puede escribir el fichero «" + ruta.string() + "»"};
+}
+
+}  // namespace
+
+DestinoPdf::DestinoPdf(const Almacen& almacen, std::filesystem::path ruta, const std::string& titulo,
+                       const QPageLayout& papel)
+    : DestinoPapel{almacen, papel}, ruta_{std::move(ruta)}, titulo_{QString::fromStdString(titulo)} {}
+
+void DestinoPdf::entrega() {
+    QBuffer contenido;
+    contenido.open(QIODevice::WriteOnly);
+    QPdfWriter pdf{&contenido};
+    pdf.setResolution(kPuntosPorPulgada);
+    pdf.setTitle(titulo_.isEmpty() ? QString::fromLatin1(kCreadorDocumentos) : titulo_);
+    pdf.setCreator(QString::fromLatin1(kCreadorDocumentos));
+    pintaEn(pdf);
+    guarda(ruta_, contenido.data());
+}
+
+std::unique_ptr<DestinoImpresion> ImpresoraPdf::elige(const std::string& documento) {
+    return std::make_unique<DestinoPdf>(almacen_, ruta_, documento);
+}
+
+}  // namespace orvemo
