@@ -51,7 +51,7 @@ class Pintor {
         puntosX_ = dispositivo.logicalDpiX() / kCentimetrosPorPulgada;
         puntosY_ = dispositivo.logicalDpiY() / kCentimetrosPorPulgada;
         pintor_.setPen(QPen{Qt::black, kGrosorRegla * puntosX_, Qt::SolidLine, Qt::FlatCap});
-        pintor_.setRenderHint(QPainter::SmoothPixmapTransform);
+        pintor_.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
     }
 
     void pinta(const Hoja& hoja) {
@@ -83,8 +83,18 @@ class Pintor {
         pintor_.setFont(letra);
         pintor_.translate(punto(texto.x, texto.y));
         pintor_.scale(texto.estrechez, 1);
-        pintor_.drawText(QPointF{0, QFontMetricsF{letra, pintor_.device()}.ascent()}, texto.texto);
+        const QFontMetricsF medida{letra, pintor_.device()};
+        pintor_.drawText(QPointF{0, medida.ascent()}, texto.texto);
+        if (texto.fuente.subrayado) subraya(medida, texto.ancho * puntosX_);
         pintor_.restore();
+    }
+
+    /// The toolkit's own underline takes the line's thickness off twice and runs into the feet of bold
+    /// letters.
+    void subraya(const QFontMetricsF& medida, double ancho) {
+        const double grosor = medida.lineWidth();
+        const double arriba = medida.ascent() + medida.underlinePos() + grosor / 2;
+        pintor_.fillRect(QRectF{0, arriba, ancho, grosor}, Qt::black);
     }
 
     QPainter pintor_;

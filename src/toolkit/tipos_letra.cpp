@@ -34,7 +34,6 @@ QFont tipoDeLetra(const Fuente& fuente) {
     letra.setStyleHint(sustituta.clase);
     letra.setPointSize(std::max(1, fuente.tamano));
     letra.setBold(fuente.negrita);
-    letra.setUnderline(fuente.subrayado);
     return letra;
 }
 

@@ -88,6 +88,12 @@ class PapelTest : public ::testing::Test {
         return salida("pdftotext", {"-raw", "-enc", "UTF-8", QString::fromStdString(ruta.string()), "-"});
     }
 
+    /// Where each word lies, in points, as XML.
+    [[nodiscard]] static std::string sitios(const fs::path& ruta) {
+        const std::string todo = salida("pdftotext", {"-bbox", QString::fromStdString(ruta.string()), "-"});
+        return todo.substr(todo.find("<page"));
+    }
+
     QTemporaryDir carpeta;
     AlmacenMemoria almacen;
 };
@@ -133,6 +139,9 @@ TEST_F(PapelTest, APrinterDrawsTheSame) {
     EXPECT_EQ(destino.Width(), 11906);
     imprimeInforme(destino);
     EXPECT_EQ(texto(fichero("impreso.pdf")), kTextoInforme);
+    DestinoPdf pdf{almacen, fichero("informe.pdf"), "Jubilación"};
+    imprimeInforme(pdf);
+    EXPECT_EQ(sitios(fichero("impreso.pdf")), sitios(fichero("informe.pdf")));
 
     impresora.setOutputFileName(QStringLiteral("/no/hay/tal/sitio.pdf"));
     EXPECT_THROW(imprimeInforme(destino), FalloImpresion);
@@ -223,8 +232,7 @@ TEST_F(PapelTest, AnOverlongLineEndsWithinThePaperWithAllItsLetters) {
     pdf.EndDoc();
     EXPECT_EQ(texto(fichero("larga.pdf")), cabe + "\n\f");
 
-    const QString caja = QString::fromStdString(
-        salida("pdftotext", {"-bbox", QString::fromStdString(fichero("larga.pdf").string()), "-"}));
+    const QString caja = QString::fromStdString(sitios(fichero("larga.pdf")));
     const auto borde = [&](const QString& nombre) {
         return caja.section(nombre + "=\"", 1).section('"', 0, 0).toDouble() / kPuntosPorCentimetro;
     };
