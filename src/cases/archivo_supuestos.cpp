@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "foundations/values/fallos.h"
+#include "cases/registro.h"
 #include "foundations/values/numeros.h"
-#include "foundations/values/textos.h"
 
 namespace orvemo {
 
@@ -13,12 +12,73 @@ namespace {
 
 constexpr std::size_t kPosicionNombre = 1;
 
-std::string nombreSupuesto(std::string_view cabecera) {
-    const std::string_view bytes = cabecera.substr(kPosicionNombre, kAnchoNombre);
-    return De1252(Recorta(bytes.substr(0, bytes.find('\0'))));
+/// Bytes fetched at a time while heads are looked through: a call to the disk for many records, and no more
+/// memory for a large file than for a small one.
+constexpr std::size_t kZancada = 64 * 1024;
+
+constexpr const char* kSinSitio = "el disco está lleno o no admite más datos; lo que había queda como estaba";
+constexpr const char* kAMedias = "el disco ha fallado a media escritura y lo que había puede estar dañado";
+
+bool esLibre(std::string_view cabecera) {
+    return cabecera.front() == kRegistroLibre;
 }
 
+std::string nombreSupuesto(std::string_view cabecera) {
+    Texto<kAnchoNombre> nombre;
+    EnRegistro<Texto<kAnchoNombre>>::lee(cabecera.data() + kPosicionNombre, nombre);
+    return nombre.utf8();
+}
+
+/// The first record, from 1, whose head satisfies `cumple(r, cabecera)`. What the file lacks of the last one
+/// reads as NUL.
+template <typename Condicion>
+std::optional<int> buscaCabecera(FicheroAleatorio& fichero, std::size_t longitud, int registros,
+                                 const Condicion& cumple) {
+    const int porZancada = static_cast<int>(std::max<std::size_t>(kZancada / longitud, 1));
+    std::string bytes;
+    for (int primero = 1; primero <= registros; primero += porZancada) {
+        const int cuantos = std::min(porZancada, registros - primero + 1);
+        bytes.assign(static_cast<std::size_t>(cuantos) * longitud, '\0');
+        fichero.lee(static_cast<std::uint64_t>(primero - 1) * longitud, bytes);
+        for (std::size_t i = 0; i < static_cast<std::size_t>(cuantos); ++i) {
+            const int r = primero + static_cast<int>(i);
+            if (cumple(r, std::string_view{bytes}.substr(i * longitud, kAnchoCabecera))) return r;
+        }
+    }
+    return std::nullopt;
+}
+
+/// What stands where a record is about to be written.
+class LoAnterior {
+  public:
+    LoAnterior(FicheroAleatorio& fichero, std::uint64_t posicion, std::size_t ancho)
+        : fichero_{fichero}, posicion_{posicion}, longitud_{fichero.longitud()}, bytes_(ancho, '\0') {
+        bytes_.resize(fichero.lee(posicion, bytes_));
+    }
+
+    /// Puts it back and gives whether it stands there again. The bytes first and then the file's length: a
+    /// case half written at the end would pass for a whole one.
+    bool repone() {
+        if (!bytes_.empty()) fichero_.escribe(posicion_, bytes_);
+        if (fichero_.longitud() != longitud_) fichero_.corta(longitud_);
+        std::string ahora(bytes_.size(), '\0');
+        fichero_.lee(posicion_, ahora);
+        return ahora == bytes_ && fichero_.longitud() == longitud_;
+    }
+
+  private:
+    FicheroAleatorio& fichero_;
+    std::uint64_t posicion_;
+    std::uint64_t longitud_;
+    std::string bytes_;
+};
+
 }  // namespace
+
+DemasiadosSupuestos::DemasiadosSupuestos(const std::string& fichero, int registros)
+    : DesbordeNumerico{static_cast<double>(registros),
+                       "el fichero \"" + fichero + "\" no puede tener " + std::to_string(registros) +
+                           " supuestos: el máximo es " + std::to_string(kMaxRegistros)} {}
 
 ArchivoSupuestos::ArchivoSupuestos(Almacen& almacen, std::string nombre, std::size_t longitud)
     : almacen_{almacen}, nombre_{std::move(nombre)}, longitud_{longitud} {}
@@ -28,7 +88,10 @@ std::uint64_t ArchivoSupuestos::posicion(int r) const {
 }
 
 int ArchivoSupuestos::cuenta(FicheroAleatorio& fichero) const {
-    return RedondeaPar16(static_cast<double>(fichero.longitud()) / static_cast<double>(longitud_));
+    const int registros =
+        RedondeaPar(static_cast<double>(fichero.longitud()) / static_cast<double>(longitud_));
+    if (registros > kMaxRegistros) throw DemasiadosSupuestos{nombre_, registros};
+    return registros;
 }
 
 int ArchivoSupuestos::cuenta() const {
@@ -43,13 +106,11 @@ std::string ArchivoSupuestos::lee(int r) const {
 
 std::vector<EntradaSupuesto> ArchivoSupuestos::lista() const {
     const auto fichero = almacen_.abre(nombre_, Acceso::Lectura);
-    const int registros = cuenta(*fichero);
     std::vector<EntradaSupuesto> entradas;
-    for (int r = 1; r <= registros; ++r) {
-        std::string cabecera(kAnchoCabecera, '\0');
-        fichero->lee(posicion(r), cabecera);
-        if (cabecera.front() != kRegistroLibre) entradas.push_back({r, nombreSupuesto(cabecera)});
-    }
+    buscaCabecera(*fichero, longitud_, cuenta(*fichero), [&](int r, std::string_view cabecera) {
+        if (!esLibre(cabecera)) entradas.push_back({r, nombreSupuesto(cabecera)});
+        return false;
+    });
     return entradas;
 }
 
@@ -57,12 +118,10 @@ int ArchivoSupuestos::agrega(std::string bytes) {
     bytes.front() = kRegistroEnUso;
     const auto fichero = almacen_.abre(nombre_, Acceso::Escritura);
     const int registros = cuenta(*fichero);
-    int r = 1;
-    for (char estado = '\0'; r <= registros; ++r) {
-        fichero->lee(posicion(r), {&estado, 1});
-        if (estado == kRegistroLibre) break;
-    }
-    if (r > kMaxRegistros) throw DesbordeNumerico{static_cast<double>(r)};
+    const auto libre = buscaCabecera(*fichero, longitud_, registros,
+                                     [](int, std::string_view cabecera) { return esLibre(cabecera); });
+    const int r = libre.value_or(registros + 1);
+    if (r > kMaxRegistros) throw DemasiadosSupuestos{nombre_, r};
     escribeEntero(*fichero, r, bytes);
     return r;
 }
@@ -75,16 +134,12 @@ void ArchivoSupuestos::sobrescribe(int r, std::string bytes) {
 std::optional<int> ArchivoSupuestos::sobrescribePorNombre(std::string bytes) {
     bytes.front() = kRegistroEnUso;
     const auto fichero = almacen_.abre(nombre_, Acceso::Escritura);
-    const int registros = cuenta(*fichero);
     const std::string_view buscado = std::string_view{bytes}.substr(0, kPosicionNombre + kAnchoNombre);
-    for (int r = 1; r <= registros; ++r) {
-        std::string cabecera(buscado.size(), '\0');
-        fichero->lee(posicion(r), cabecera);
-        if (cabecera != buscado) continue;
-        escribeEntero(*fichero, r, bytes);
-        return r;
-    }
-    return std::nullopt;
+    const auto encontrado =
+        buscaCabecera(*fichero, longitud_, cuenta(*fichero),
+                      [&](int, std::string_view cabecera) { return cabecera.starts_with(buscado); });
+    if (encontrado) escribeEntero(*fichero, *encontrado, bytes);
+    return encontrado;
 }
 
 void ArchivoSupuestos::borra(int r) {
@@ -94,14 +149,9 @@ void ArchivoSupuestos::borra(int r) {
 }
 
 void ArchivoSupuestos::escribeEntero(FicheroAleatorio& fichero, int r, std::string_view bytes) const {
-    const std::uint64_t longitudAnterior = fichero.longitud();
-    std::string anterior(bytes.size(), '\0');
-    anterior.resize(fichero.lee(posicion(r), anterior));
+    LoAnterior anterior{fichero, posicion(r), bytes.size()};
     if (fichero.escribe(posicion(r), bytes) == bytes.size()) return;
-    // The old record first, then the old length: a case half written would pass for a whole one.
-    fichero.escribe(posicion(r), anterior);
-    fichero.corta(longitudAnterior);
-    throw FicheroInaccesible{nombre_, "no se ha podido escribir el registro entero (¿disco lleno?)"};
+    throw FicheroInaccesible{nombre_, anterior.repone() ? kSinSitio : kAMedias};
 }
 
 }  // namespace orvemo

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "foundations/values/almacen.h"
+#include "foundations/values/fallos.h"
 
 namespace orvemo {
 
@@ -23,6 +24,12 @@ inline constexpr std::size_t kAnchoCabecera = 1 + 2 * kAnchoNombre;
 /// Record numbers are 16-bit: no case file passes this many.
 inline constexpr int kMaxRegistros = 32767;
 
+/// A case file holds, or would have to hold, more than kMaxRegistros.
+class DemasiadosSupuestos final : public DesbordeNumerico {
+  public:
+    DemasiadosSupuestos(const std::string& fichero, int registros);
+};
+
 /// One line of a list of cases.
 struct EntradaSupuesto {
     int registro;        ///< from 1
@@ -30,10 +37,12 @@ struct EntradaSupuesto {
 };
 
 /// The cases of one calculator: records of one length, numbered from 1, in a file of the application
-/// directory. Nothing stays open between calls. Failures throw FicheroInaccesible; more records than
-/// kMaxRegistros throw DesbordeNumerico. A write that fails puts back what stood there before.
+/// directory. Nothing stays open between calls. A file that can't be opened, read or written throws
+/// FicheroInaccesible; more records than kMaxRegistros throw DemasiadosSupuestos. A write that fails puts
+/// back what stood there before.
 class ArchivoSupuestos {
   public:
+    /// Records of `longitud` bytes, at least kAnchoCabecera of them.
     ArchivoSupuestos(Almacen& almacen, std::string nombre, std::size_t longitud);
 
     [[nodiscard]] const std::string& nombre() const { return nombre_; }
@@ -46,7 +55,7 @@ class ArchivoSupuestos {
     /// The bytes of record r; those beyond the end of the file are NUL.
     [[nodiscard]] std::string lee(int r) const;
 
-    /// The cases in use in the order of their records; the bytes past the head aren't read.
+    /// The cases in use in the order of their records; nothing past the heads is looked at.
     [[nodiscard]] std::vector<EntradaSupuesto> lista() const;
 
     /// Writes a whole record, in use, into the first free slot or at the end, and gives its number.
@@ -72,8 +81,8 @@ class ArchivoSupuestos {
     std::size_t longitud_;
 };
 
-/// The list in Spanish alphabetical order: case and accents aside, ñ after n, equals in the order of their
-/// records.
+/// The list in Spanish alphabetical order: case and accents aside, ñ after n. Names that differ in those
+/// alone stand in the order of their bytes, equal names in that of their records.
 [[nodiscard]] std::vector<EntradaSupuesto> OrdenaAlfabeticamente(std::vector<EntradaSupuesto> lista);
 
 }  // namespace orvemo

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "cases/registro.h"
 #include "foundations/values/fallos.h"
 #include "foundations/values/textos.h"
 
@@ -12,9 +13,10 @@ namespace {
 
 constexpr std::string_view kMarcaEjemplosLibres = "vesta";
 
-/// A name as it will stand in the file, to compare it with those that stand there.
-std::string comoSeGuarda(std::string_view nombre) {
-    return A1252(Recorta(nombre));
+/// A name as it will be listed once saved. What the file can't hold changes on the way ("Łódź" comes back as
+/// "?ód?"): saved twice, it has to meet itself and not become two cases.
+std::string comoSeListara(std::string_view nombre) {
+    return Texto<kAnchoNombre>{Recorta(nombre)}.utf8();
 }
 
 }  // namespace
@@ -102,9 +104,7 @@ void GrabaSupuesto::BotonGrabar() {
         mensajes_.ComunicaError("El nombre del supuesto no puede estar en blanco.");
         return;
     }
-    const std::string nombre = comoSeGuarda(nombre_);
-    const auto igual = std::ranges::find(
-        lista_, nombre, [](const EntradaSupuesto& entrada) { return A1252(entrada.nombre); });
+    const auto igual = std::ranges::find(lista_, comoSeListara(nombre_), &EntradaSupuesto::nombre);
     if (igual == lista_.end()) return oculta(kRegistroNuevo);
     // Examples aren't protected here: a save over one goes through.
     registro_ = igual->registro;

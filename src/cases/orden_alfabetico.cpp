@@ -2,6 +2,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -12,59 +13,88 @@ namespace orvemo {
 
 namespace {
 
-/// Letters of Windows-1252 that sort as a plain one.
+/// Characters of Windows-1252 that sort as plain letters.
 struct Equivalencia {
-    char base;
+    std::string_view base;
     std::string_view letras;
 };
 constexpr std::array kEquivalencias{
-    Equivalencia{'A', "\xC0\xC1\xC2\xC3\xC4\xC5\xE0\xE1\xE2\xE3\xE4\xE5"},
-    Equivalencia{'C', "\xC7\xE7"},
-    Equivalencia{'E', "\xC8\xC9\xCA\xCB\xE8\xE9\xEA\xEB"},
-    Equivalencia{'I', "\xCC\xCD\xCE\xCF\xEC\xED\xEE\xEF"},
-    Equivalencia{'O', "\xD2\xD3\xD4\xD5\xD6\xF2\xF3\xF4\xF5\xF6"},
-    Equivalencia{'U', "\xD9\xDA\xDB\xDC\xF9\xFA\xFB\xFC"},
-    Equivalencia{'Y', "\xDD\xFD\xFF"},
+    Equivalencia{"A", "\xC0\xC1\xC2\xC3\xC4\xC5\xE0\xE1\xE2\xE3\xE4\xE5\xAA"},  // with ª
+    Equivalencia{"AE", "\xC6\xE6"},
+    Equivalencia{"C", "\xC7\xE7"},
+    Equivalencia{"E", "\xC8\xC9\xCA\xCB\xE8\xE9\xEA\xEB"},
+    Equivalencia{"I", "\xCC\xCD\xCE\xCF\xEC\xED\xEE\xEF"},
+    Equivalencia{"O", "\xD2\xD3\xD4\xD5\xD6\xD8\xF2\xF3\xF4\xF5\xF6\xF8\xBA"},  // with º
+    Equivalencia{"OE", "\x8C\x9C"},
+    Equivalencia{"S", "\x8A\x9A"},
+    Equivalencia{"SS", "\xDF"},
+    Equivalencia{"U", "\xD9\xDA\xDB\xDC\xF9\xFA\xFB\xFC"},
+    Equivalencia{"Y", "\xDD\xFD\xFF\x9F"},
+    Equivalencia{"Z", "\x8E\x9E"},
 };
 constexpr std::string_view kEnies = "\xD1\xF1";
 
-using Pesos = std::array<char16_t, 256>;
+/// What a character adds to the key of a name: one place in the alphabet, or two for a ligature.
+struct Peso {
+    char primero = '\0';
+    char segundo = '\0';
+};
+using Pesos = std::array<Peso, 256>;
 
 constexpr std::size_t lugar(char c) {
     return static_cast<unsigned char>(c);
 }
 
-/// Twice the code of the letter, so that ñ fits between n and o.
+/// Capitals and what stands between them and the small letters move up one place, so that ñ fits after n. The
+/// small letters sort as capitals and leave their places free.
+constexpr char lugarEnAlfabeto(char c) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    return c > 'N' && c < 'a' ? static_cast<char>(c + 1) : c;
+}
+
 constexpr Pesos tablaDePesos() {
     Pesos pesos{};
-    for (std::size_t c = 0; c < pesos.size(); ++c) pesos[c] = static_cast<char16_t>(2 * c);
-    for (char c = 'a'; c <= 'z'; ++c) pesos[lugar(c)] = pesos[lugar(static_cast<char>(c - 'a' + 'A'))];
+    for (std::size_t c = 0; c < pesos.size(); ++c) pesos[c].primero = lugarEnAlfabeto(static_cast<char>(c));
     for (const Equivalencia& grupo : kEquivalencias) {
-        for (const char c : grupo.letras) pesos[lugar(c)] = pesos[lugar(grupo.base)];
+        const Peso peso{lugarEnAlfabeto(grupo.base.front()),
+                        grupo.base.size() > 1 ? lugarEnAlfabeto(grupo.base[1]) : '\0'};
+        for (const char c : grupo.letras) pesos[lugar(c)] = peso;
     }
-    for (const char c : kEnies) pesos[lugar(c)] = static_cast<char16_t>(pesos[lugar('N')] + 1);
+    for (const char c : kEnies) pesos[lugar(c)].primero = 'N' + 1;
     return pesos;
 }
 constexpr Pesos kPesos = tablaDePesos();
 
-std::u16string clave(std::string_view nombre) {
-    const std::string letras = A1252(nombre);
-    std::u16string pesos(letras.size(), u'\0');
-    std::ranges::transform(letras, pesos.begin(), [](char c) { return kPesos[lugar(c)]; });
-    return pesos;
+std::string clave(std::string_view nombre) {
+    std::string alfabeto;
+    for (const char c : A1252(nombre)) {
+        const Peso peso = kPesos[lugar(c)];
+        alfabeto += peso.primero;
+        if (peso.segundo != '\0') alfabeto += peso.segundo;
+    }
+    return alfabeto;
 }
+
+struct Clasificada {
+    std::string clave;
+    EntradaSupuesto entrada;
+
+    friend bool operator<(const Clasificada& a, const Clasificada& b) {
+        return std::tie(a.clave, a.entrada.nombre, a.entrada.registro) <
+               std::tie(b.clave, b.entrada.nombre, b.entrada.registro);
+    }
+};
 
 }  // namespace
 
 std::vector<EntradaSupuesto> OrdenaAlfabeticamente(std::vector<EntradaSupuesto> lista) {
-    std::vector<std::pair<std::u16string, std::size_t>> claves;
-    claves.reserve(lista.size());
-    for (std::size_t i = 0; i < lista.size(); ++i) claves.emplace_back(clave(lista[i].nombre), i);
-    std::ranges::sort(claves);
-    std::vector<EntradaSupuesto> ordenada;
-    ordenada.reserve(lista.size());
-    for (const auto& [pesos, i] : claves) ordenada.push_back(std::move(lista[i]));
-    return ordenada;
+    std::vector<Clasificada> clasificadas;
+    clasificadas.reserve(lista.size());
+    for (EntradaSupuesto& entrada : lista)
+        clasificadas.push_back({clave(entrada.nombre), std::move(entrada)});
+    std::sort(clasificadas.begin(), clasificadas.end());
+    std::ranges::transform(clasificadas, lista.begin(), [](Clasificada& c) { return std::move(c.entrada); });
+    return lista;
 }
 
 }  // namespace orvemo

@@ -6,21 +6,33 @@
 #include <limits>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "foundations/values/almacen.h"
 #include "foundations/values/fallos.h"
 
 namespace orvemo::pruebas {
 
-/// An application directory in memory that can be made to fail: read-only, or full after so many bytes.
+/// A disk that fails in the middle of a write.
+struct Averia {
+    std::uint64_t bytes;    ///< the first write longer than this stops here
+    bool duradera = false;  ///< from then on nothing more can be written nor cut; otherwise all is well again
+};
+
+/// An application directory in memory that can be made to fail: read-only, unreadable, full after so many
+/// bytes, or broken in mid write.
 class AlmacenMemoria final : public Almacen {
   public:
     std::map<std::string, std::string> ficheros;  ///< by name in lower case
     bool soloLectura = false;
-    /// Bytes that may still be written before the disk is full.
-    std::uint64_t sitio = std::numeric_limits<std::uint64_t>::max();
+    bool ilegible = false;  ///< files open and none of their bytes can be read
+    /// Bytes by which the files may still grow before the disk is full; what is written over others needs
+    /// none.
+    std::uint64_t sitio = std::numeric_limits<std::uint32_t>::max();
+    std::optional<Averia> averia;
 
     [[nodiscard]] static std::string clave(std::string_view nombre) {
         std::string minusculas{nombre};
@@ -38,8 +50,8 @@ class AlmacenMemoria final : public Almacen {
         if (soloLectura && acceso == Acceso::Escritura) {
             throw FicheroInaccesible{std::string{nombre}, "no se puede escribir"};
         }
-        if (soloLectura && !existe(nombre)) return std::make_unique<Abierto>(*this, vacio_);
-        return std::make_unique<Abierto>(*this, ficheros[clave(nombre)]);
+        std::string& bytes = soloLectura && !existe(nombre) ? vacio_ : ficheros[clave(nombre)];
+        return std::make_unique<Abierto>(*this, std::string{nombre}, bytes);
     }
 
     [[nodiscard]] std::string leeTodo(std::string_view nombre) const override {
@@ -49,7 +61,7 @@ class AlmacenMemoria final : public Almacen {
     }
 
     void sustituye(std::string_view nombre, std::string_view contenido) override {
-        if (soloLectura || contenido.size() > sitio) {
+        if (soloLectura || contenido.size() > sitio || seCorta(contenido.size()) < contenido.size()) {
             throw FicheroInaccesible{std::string{nombre}, "no se puede escribir"};
         }
         ficheros[clave(nombre)] = contenido;
@@ -62,28 +74,55 @@ class AlmacenMemoria final : public Almacen {
   private:
     class Abierto final : public FicheroAleatorio {
       public:
-        Abierto(AlmacenMemoria& almacen, std::string& bytes) : almacen_{almacen}, bytes_{bytes} {}
+        Abierto(AlmacenMemoria& almacen, std::string nombre, std::string& bytes)
+            : almacen_{almacen}, nombre_{std::move(nombre)}, bytes_{bytes} {}
         [[nodiscard]] std::uint64_t longitud() override { return bytes_.size(); }
         std::size_t lee(std::uint64_t posicion, std::span<char> destino) override {
+            if (almacen_.ilegible) throw FicheroInaccesible{nombre_, "no se puede leer"};
             if (posicion >= bytes_.size()) return 0;
             return bytes_.copy(destino.data(), destino.size(), posicion);
         }
         std::size_t escribe(std::uint64_t posicion, std::span<const char> origen) override {
-            const auto cabe = std::min<std::uint64_t>(almacen_.sitio, origen.size());
-            almacen_.sitio -= cabe;
+            const std::uint64_t cabe = almacen_.admite(origen.size(), posicion, bytes_.size());
+            if (cabe == 0) return 0;
             if (posicion + cabe > bytes_.size()) bytes_.resize(posicion + cabe, '\0');
             std::copy_n(origen.begin(), cabe, bytes_.begin() + static_cast<std::ptrdiff_t>(posicion));
             return cabe;
         }
         bool corta(std::uint64_t nueva) override {
+            if (almacen_.rota()) return false;
+            almacen_.sitio += bytes_.size() - std::min<std::uint64_t>(nueva, bytes_.size());
             bytes_.resize(nueva);
             return true;
         }
 
       private:
         AlmacenMemoria& almacen_;
+        std::string nombre_;
         std::string& bytes_;
     };
+
+    [[nodiscard]] bool rota() const { return averia && averia->duradera && averia->bytes == 0; }
+
+    /// How many of `bytes` the present breakdown lets through.
+    std::uint64_t seCorta(std::uint64_t bytes) {
+        if (!averia || bytes <= averia->bytes) return bytes;
+        const std::uint64_t escritos = averia->bytes;
+        if (averia->duradera) {
+            averia->bytes = 0;
+        } else {
+            averia.reset();
+        }
+        return escritos;
+    }
+
+    /// How many of `bytes` reach a file of that length at that place; takes the room for its growth.
+    std::uint64_t admite(std::uint64_t bytes, std::uint64_t posicion, std::uint64_t longitud) {
+        const std::uint64_t encima = std::min(bytes, longitud - std::min(posicion, longitud));
+        const std::uint64_t escritos = seCorta(encima + std::min(bytes - encima, sitio));
+        if (escritos > encima) sitio -= escritos - encima;
+        return escritos;
+    }
 
     std::string vacio_;
 };

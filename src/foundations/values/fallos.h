@@ -17,6 +17,10 @@ class DesbordeNumerico : public Fallo {
   public:
     explicit DesbordeNumerico(double valor);
     const double valor;
+
+  protected:
+    /// For a limit that has a story of its own to tell.
+    DesbordeNumerico(double numero, const std::string& motivo) : Fallo{motivo}, valor{numero} {}
 };
 
 /// A divisor is zero.
