@@ -173,7 +173,7 @@ bool igualSinCaja(std::string_view a, std::string_view b) {
 
 /// One name in a directory: the exact one, else the smallest that matches without regard to case.
 fs::path resuelve(const fs::path& carpeta, const std::string& nombre) {
-    const fs::path exacta = carpeta / nombre;
+    fs::path exacta = carpeta / nombre;
     if (existeAlgo(exacta)) return exacta;
     std::string elegido;
     std::error_code error;
