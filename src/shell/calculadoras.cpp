@@ -5,6 +5,9 @@
 #include <string_view>
 
 #include "benefits/desemp_frm.h"
+#include "benefits/ilt_frm.h"
+#include "benefits/mater_frm.h"
+#include "benefits/riesgo_embarazo_frm.h"
 #include "shell/fondo_frm.h"
 #include "shell/presenta_frm.h"
 
@@ -24,8 +27,11 @@ struct PantallaDisponible {
 
 constexpr std::array kDisponibles{
     PantallaDisponible{"DesempFrm", crea<DesempFrm>},
+    PantallaDisponible{"MaterFrm", crea<MaterFrm>},
+    PantallaDisponible{"ILTFrm", crea<ILTFrm>},
     PantallaDisponible{"FondoFrm", crea<FondoFrm>},
     PantallaDisponible{"PresentaFrm", crea<PresentaFrm>},
+    PantallaDisponible{"RiesgoEmbarazo", crea<RiesgoEmbarazo>},
 };
 
 }  // namespace
