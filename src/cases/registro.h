@@ -110,7 +110,7 @@ template <typename Registro, typename... T>
 class Diseno {
   public:
     /// Checked while compiling: each offset is where the field before ends, and the last ends at `longitud`.
-    consteval Diseno(std::size_t longitud, Tramo<Registro, T>... tramos)
+    explicit consteval Diseno(std::size_t longitud, Tramo<Registro, T>... tramos)
         : longitud_{longitud}, tramos_{tramos...} {
         std::size_t fin = 0;
         (

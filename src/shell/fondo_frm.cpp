@@ -17,7 +17,7 @@ FondoFrm::FondoFrm(Entorno& entorno)
                             .ayuda = "Volver al menú principal"})},
       LogoOrvemo{nuevo({.nombre = "LogoOrvemo", .clase = Clase::Imagen, .pantalla = kBarra})},
       FondoCap{declaraCapitulos()},
-      FondoImg{nuevo({.nombre = "FondoImg", .clase = Clase::Imagen})},
+      FondoImg{nuevo({.nombre = "FondoImg", .clase = Clase::Imagen, .ayuda = "Imagen del capítulo"})},
       FondoLista{nuevo({.nombre = "FondoLista",
                         .clase = Clase::ListaAbierta,
                         .alCambiar = [this](Campo&) { muestraResumen(); },

@@ -22,7 +22,7 @@ PresentaFrm::PresentaFrm(Entorno& entorno)
                                .ayuda = "Volver al menú principal"})},
       LogoOrvemo{nuevo({.nombre = "LogoOrvemo", .clase = Clase::Imagen, .pantalla = kBarra})},
       PresenOpciones{declaraOpciones()},
-      PresenPan{nuevo({.nombre = "PresenPan", .clase = Clase::Imagen})},
+      PresenPan{nuevo({.nombre = "PresenPan", .clase = Clase::Imagen, .ayuda = "Página de información"})},
       EstudioLblTVX{nuevo({.nombre = "EstudioLblTVX",
                            .rotulo = "Programa:  Talvix, S.L.\r\nContacto: vea \"Direcciones de interés\"",
                            .clase = Clase::Etiqueta})} {

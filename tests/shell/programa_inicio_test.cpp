@@ -103,6 +103,10 @@ TEST_F(ProgramaInicio, LasOpcionesDelMenuSalenDeConfigNom) {
         std::vector<std::string> esperadas = caso.vistas;
         esperadas.insert(esperadas.end(), std::begin(kInformacionYFin), std::end(kInformacionYFin));
         EXPECT_EQ(aLaVista(otro), esperadas) << caso.cuento;
+        for (std::size_t i = 0; i < kOpciones.size(); ++i) {
+            if (otro.opciones()[i].visible) continue;
+            EXPECT_EQ(otro.opciones()[i].puesto, kOpciones[i].puesto) << "hidden, it keeps its place";
+        }
     }
 }
 
