@@ -1,0 +1,41 @@
+#include "lote/calculadoras_lote.h"
+
+#include <algorithm>
+#include <array>
+
+#include "benefits/desemp_frm.h"
+
+namespace orvemo::lote {
+
+namespace {
+
+template <typename Pantalla>
+std::unique_ptr<Calculadora> abre(Entorno& entorno) {
+    return std::make_unique<Pantalla>(entorno);
+}
+
+struct Entrada {
+    std::string_view nombre;
+    std::unique_ptr<Calculadora> (*abre)(Entorno&);
+};
+constexpr std::array kEntradas{
+    Entrada{"desempleo", abre<DesempFrm>},
+};
+
+}  // namespace
+
+Abridor abridorDe(std::string_view nombre) {
+    const auto entrada =
+        std::ranges::find_if(kEntradas, [&](const Entrada& e) { return e.nombre == nombre; });
+    return entrada == kEntradas.end() ? Abridor{} : Abridor{entrada->abre};
+}
+
+std::string nombresDisponibles() {
+    std::string nombres;
+    for (const Entrada& entrada : kEntradas) {
+        nombres.append(nombres.empty() ? "" : ", ").append(entrada.nombre);
+    }
+    return nombres;
+}
+
+}  // namespace orvemo::lote

@@ -1,0 +1,184 @@
+#include "lote/lote.h"
+
+#include <memory>
+#include <string>
+
+#include "cases/archivo_supuestos.h"
+#include "foundations/values/fallos.h"
+#include "lote/almacen_lote.h"
+#include "lote/calculadoras_lote.h"
+#include "lote/salida.h"
+#include "toolkit/impresora_pdf.h"
+
+namespace orvemo::lote {
+
+namespace {
+
+/// Nobody sits before a batch: questions get a No, and the first error said is why the case failed.
+class MensajesLote final : public Mensajes {
+  public:
+    std::string error;
+
+    bool Confirma(std::string_view /*texto*/) override { return false; }
+    void Informa(std::string_view /*texto*/) override {}
+    void ComunicaError(std::string_view texto) override {
+        if (error.empty()) error = texto;
+    }
+};
+
+class RelojLote final : public Reloj {
+  public:
+    explicit RelojLote(const std::optional<Fecha>& hoy) : hoy_{hoy.value_or(RelojDelSistema{}.hoy())} {}
+    [[nodiscard]] Fecha hoy() const override { return hoy_; }
+
+  private:
+    Fecha hoy_;
+};
+
+/// Presses `Siguiente` up to the conclusions; stops where a panel doesn't let pass.
+void avanzaHastaConclusiones(Calculadora& calculadora) {
+    while (calculadora.PantallaActual() != calculadora.ultimaPantalla()) {
+        const int antes = calculadora.PantallaActual();
+        if (!calculadora.pulsa(calculadora.Siguiente) || calculadora.PantallaActual() == antes) return;
+    }
+}
+
+/// One calculator just opened, with a world of its own around it.
+class Apertura {
+  public:
+    Apertura(const Abridor& abre, Almacen& almacen, const Reloj& reloj, std::filesystem::path pdf)
+        : impresora_{almacen, std::move(pdf)},
+          entorno_{mensajes_, reloj, almacen, impresora_, rutinas_, valores_},
+          calculadora_{abre(entorno_)} {}
+
+    [[nodiscard]] Calculadora& calculadora() { return *calculadora_; }
+    [[nodiscard]] const std::string& error() const { return mensajes_.error; }
+    /// Throws Fallo without a picture to head the pages.
+    void imprime(const Almacen& almacen) {
+        rutinas_.ponLogo(imagenDe(almacen, "logo.bmp"));
+        calculadora_->pulsa(calculadora_->BotonPrint);
+    }
+
+  private:
+    MensajesLote mensajes_;
+    RutinasImpresion rutinas_;
+    ValoresPrograma valores_;
+    ImpresoraPdf impresora_;
+    Entorno entorno_;
+    std::unique_ptr<Calculadora> calculadora_;
+};
+
+class Lote {
+  public:
+    Lote(const Opciones& opciones, const std::filesystem::path& datos, Abridor abre)
+        : opciones_{opciones},
+          almacen_{datos, opciones.fichero},
+          reloj_{opciones.hoy},
+          abre_{std::move(abre)} {
+        Apertura apertura{abre_, almacen_, reloj_, {}};
+        fichero_ = apertura.calculadora().fichero();
+        longitud_ = apertura.calculadora().longitudRegistro();
+        almacen_.ponNombreDelFichero(fichero_);
+    }
+
+    [[nodiscard]] int cuenta() { return archivo().cuenta(); }
+    [[nodiscard]] bool enUso(int registro) { return archivo().lee(registro).front() != kRegistroLibre; }
+
+    /// Opens, loads, goes to the conclusions, prints if asked; whatever fails stands in the result.
+    [[nodiscard]] Resultado calcula(int registro) {
+        Resultado resultado;
+        resultado.registro = registro;
+        Apertura apertura{abre_, almacen_, reloj_, rutaPdf(registro)};
+        Calculadora& calculadora = apertura.calculadora();
+        try {
+            calculadora.Inicia();
+            calculadora.DatosCargaRegistro(registro);
+            resultado.supuesto = calculadora.NombreActual();
+            avanzaHastaConclusiones(calculadora);
+            if (opciones_.pdf && apertura.error().empty()) apertura.imprime(almacen_);
+            resultado.error = apertura.error();
+        } catch (const Fallo& fallo) {
+            resultado.error = fallo.what();
+        }
+        resultado.nombre = calculadora.campoNombre().texto();
+        resultado.derecho = calculadora.ConDerecho();
+        resultado.conclusion = calculadora.textoConclusion();
+        return resultado;
+    }
+
+  private:
+    [[nodiscard]] ArchivoSupuestos archivo() { return {almacen_, fichero_, longitud_}; }
+
+    [[nodiscard]] std::filesystem::path rutaPdf(int registro) const {
+        if (!opciones_.pdf) return {};
+        return *opciones_.pdf / (opciones_.calculadora + "-" + std::to_string(registro) + ".pdf");
+    }
+
+    const Opciones& opciones_;
+    AlmacenLote almacen_;
+    RelojLote reloj_;
+    Abridor abre_;
+    std::string fichero_;
+    std::size_t longitud_ = 0;
+};
+
+/// Throws ArgumentoInservible for what can't be used at all.
+void compruebaRutas(const Opciones& opciones) {
+    if (!ExisteArchivo(opciones.fichero)) {
+        throw ArgumentoInservible{"No se encuentra el fichero " + opciones.fichero.string() + "."};
+    }
+    if (opciones.pdf && !std::filesystem::is_directory(*opciones.pdf)) {
+        throw ArgumentoInservible{"No se encuentra el directorio " + opciones.pdf->string() + "."};
+    }
+}
+
+Abridor abridorPedido(const std::string& nombre) {
+    Abridor abre = abridorDe(nombre);
+    if (!abre) {
+        throw ArgumentoInservible{"No existe la calculadora «" + nombre +
+                                  "». Disponibles: " + nombresDisponibles() + "."};
+    }
+    return abre;
+}
+
+/// The records asked for: one, that must be in use, or all.
+std::pair<int, int> registrosPedidos(const Opciones& opciones, Lote& lote) {
+    const int cuenta = lote.cuenta();
+    if (!opciones.registro) return {1, cuenta};
+    if (*opciones.registro > cuenta || !lote.enUso(*opciones.registro)) {
+        throw ArgumentoInservible{"El fichero no tiene ningún supuesto en el registro " +
+                                  std::to_string(*opciones.registro) + "."};
+    }
+    return {*opciones.registro, *opciones.registro};
+}
+
+int calculaTodo(const Opciones& opciones, Lote& lote, std::ostream& salida) {
+    const auto [primero, ultimo] = registrosPedidos(opciones, lote);
+    bool algunFallo = false;
+    for (int registro = primero; registro <= ultimo; ++registro) {
+        if (!lote.enUso(registro)) continue;
+        const Resultado resultado = lote.calcula(registro);
+        algunFallo = algunFallo || !resultado.error.empty();
+        (opciones.json ? escribeJson : escribeTexto)(salida, resultado);
+    }
+    salida.flush();
+    return algunFallo || !salida ? kAlgunoFallo : kTodoCalculado;
+}
+
+}  // namespace
+
+int ejecuta(const Opciones& opciones, const std::filesystem::path& datosPorDefecto, std::ostream& salida,
+            std::ostream& errores) {
+    try {
+        compruebaRutas(opciones);
+        Lote lote{opciones, opciones.datos.value_or(datosPorDefecto), abridorPedido(opciones.calculadora)};
+        return calculaTodo(opciones, lote, salida);
+    } catch (const ArgumentoInservible& error) {
+        errores << error.what() << '\n';
+    } catch (const Fallo& fallo) {
+        errores << fallo.what() << '\n';
+    }
+    return kInservible;
+}
+
+}  // namespace orvemo::lote

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+#include <ostream>
+
+#include "lote/opciones_lote.h"
+
+namespace orvemo::lote {
+
+/// Every case was computed.
+inline constexpr int kTodoCalculado = 0;
+/// Some case failed.
+inline constexpr int kAlgunoFallo = 1;
+/// A file or an argument can't be used.
+inline constexpr int kInservible = 2;
+
+/// Computes the cases of a file one by one, each as if the calculator had just been opened, and writes what
+/// stands on its conclusions. Results stream. Gives the exit status; what can't be used is told on `errores`.
+int ejecuta(const Opciones& opciones, const std::filesystem::path& datosPorDefecto, std::ostream& salida,
+            std::ostream& errores);
+
+}  // namespace orvemo::lote

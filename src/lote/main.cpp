@@ -1,0 +1,48 @@
+// orvemo-lote: the calculators without screens, for advisers with many cases, scripts and checks.
+
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "lote/lote.h"
+#include "lote/opciones_lote.h"
+
+namespace {
+
+std::filesystem::path directorioDelEjecutable() {
+    return std::filesystem::canonical("/proc/self/exe").parent_path();
+}
+
+/// Standard error is for what the user can mend: the library's remarks on the machine stay out of it.
+void callaAvisos(QtMsgType tipo, const QMessageLogContext& /*lugar*/, const QString& texto) {
+    if (tipo == QtCriticalMsg || tipo == QtFatalMsg) std::cerr << texto.toStdString() << '\n';
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace orvemo::lote;
+    const std::vector<std::string> argumentos{argv, argv + argc};
+    qInstallMessageHandler(callaAvisos);
+    // Reports need fonts, never a display.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int soloElNombre = 1;
+    QGuiApplication aplicacion{soloElNombre, argv};
+    QTranslator castellano;
+    if (castellano.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&castellano);
+    }
+    try {
+        return ejecuta(leeOpciones(argumentos), directorioDelEjecutable(), std::cout, std::cerr);
+    } catch (const PideAyuda& ayuda) {
+        std::cout << ayuda.what();
+        return kTodoCalculado;
+    } catch (const ArgumentoInservible& error) {
+        std::cerr << error.what() << '\n';
+        return kInservible;
+    }
+}

@@ -1,0 +1,70 @@
+#include "lote/opciones_lote.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+#include <QDate>
+#include <QStringList>
+
+#include "lote/calculadoras_lote.h"
+
+namespace orvemo::lote {
+
+namespace {
+
+const QCommandLineOption kRegistro{"registro", "Solo el registro N del fichero.", "N"};
+const QCommandLineOption kHoy{"hoy", "Fecha de hoy, AAAA-MM-DD, en lugar de la del equipo.", "AAAA-MM-DD"};
+const QCommandLineOption kDatos{"datos", "Directorio de los ficheros de datos del programa.", "DIR"};
+const QCommandLineOption kPdf{"pdf", "Imprime cada informe en DIR/CALCULADORA-N.pdf.", "DIR"};
+const QCommandLineOption kJson{"json", "Un objeto JSON por línea en lugar de texto."};
+const QCommandLineOption kAyuda{{"h", "ayuda"}, "Muestra esta ayuda."};
+
+int leeRegistro(const QString& texto) {
+    bool legible = false;
+    const int registro = texto.toInt(&legible);
+    if (!legible || registro < 1) throw ArgumentoInservible{"El registro debe ser un número desde 1."};
+    return registro;
+}
+
+Fecha leeHoy(const QString& texto) {
+    const QDate dia = QDate::fromString(texto, Qt::ISODate);
+    if (!dia.isValid()) throw ArgumentoInservible{"La fecha de --hoy debe ser AAAA-MM-DD."};
+    return FechaDMA(dia.day(), dia.month(), dia.year());
+}
+
+std::filesystem::path ruta(const QString& texto) {
+    return std::filesystem::path{texto.toStdString()};
+}
+
+void describe(QCommandLineParser& analizador) {
+    analizador.setApplicationDescription(
+        "Calcula por lotes los supuestos de un fichero y da sus conclusiones.");
+    analizador.addPositionalArgument("CALCULADORA",
+                                     QString::fromStdString("Una de: " + nombresDisponibles()));
+    analizador.addPositionalArgument("FICHERO", "Fichero de supuestos (*.nom).");
+    analizador.addOptions({kRegistro, kHoy, kDatos, kPdf, kJson, kAyuda});
+}
+
+}  // namespace
+
+Opciones leeOpciones(const std::vector<std::string>& argumentos) {
+    QCommandLineParser analizador;
+    describe(analizador);
+    QStringList lista;
+    for (const std::string& argumento : argumentos) lista << QString::fromStdString(argumento);
+    if (!analizador.parse(lista)) throw ArgumentoInservible{analizador.errorText().toStdString()};
+    if (analizador.isSet(kAyuda)) throw PideAyuda{analizador.helpText().toStdString()};
+    const QStringList sueltos = analizador.positionalArguments();
+    if (sueltos.size() != 2) throw ArgumentoInservible{"Se esperan CALCULADORA y FICHERO (véase --ayuda)."};
+
+    Opciones opciones;
+    opciones.calculadora = sueltos[0].toStdString();
+    opciones.fichero = ruta(sueltos[1]);
+    if (analizador.isSet(kRegistro)) opciones.registro = leeRegistro(analizador.value(kRegistro));
+    if (analizador.isSet(kHoy)) opciones.hoy = leeHoy(analizador.value(kHoy));
+    if (analizador.isSet(kDatos)) opciones.datos = ruta(analizador.value(kDatos));
+    if (analizador.isSet(kPdf)) opciones.pdf = ruta(analizador.value(kPdf));
+    opciones.json = analizador.isSet(kJson);
+    return opciones;
+}
+
+}  // namespace orvemo::lote

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "foundations/values/fechas.h"
+
+namespace orvemo::lote {
+
+/// What one run of the batch was asked for.
+struct Opciones {
+    std::string calculadora{};
+    std::filesystem::path fichero{};               ///< the case file, wherever it lies
+    std::optional<int> registro{};                 ///< that record alone
+    std::optional<Fecha> hoy{};                    ///< instead of the machine's date
+    std::optional<std::filesystem::path> datos{};  ///< application directory with the data files
+    std::optional<std::filesystem::path> pdf{};    ///< directory that takes the printed reports
+    bool json = false;
+};
+
+/// An argument that can't be used; `what()` says so in Spanish.
+class ArgumentoInservible : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The help, and nothing else, was asked for; `what()` is its text.
+class PideAyuda : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads the command line, the program's name first. Throws ArgumentoInservible, PideAyuda.
+[[nodiscard]] Opciones leeOpciones(const std::vector<std::string>& argumentos);
+
+}  // namespace orvemo::lote

@@ -1,0 +1,137 @@
+#include "lote/lote.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QImage>
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "benefits/desempleo_registro.h"
+#include "cases/archivo_supuestos.h"
+#include "foundations/values/almacen.h"
+
+namespace orvemo::lote {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A directory with the case file "paro.nom": a case with a right, a free slot, a case that overflows.
+class LoteTest : public testing::Test {
+  protected:
+    LoteTest() {
+        fs::remove_all(lugar);
+        fs::create_directories(lugar);
+        DirectorioAplicacion directorio{lugar};
+        ArchivoSupuestos archivo{directorio, "paro.nom", desempleo::kDiseno.longitud()};
+        desempleo::RegistroDesempleo caso;
+        caso.NombreSupuesto.asigna("Dos años");
+        caso.Nombre.asigna("Elena \"Nena\" Prado");
+        caso.Edad = 40;
+        caso.Fecha_ = caso.fIni = FechaDMA(6, 6, 2005);
+        caso.Suma = 7200;
+        caso.Dias = 540;
+        archivo.agrega(desempleo::kDiseno.escribe(caso));
+        archivo.agrega(desempleo::kDiseno.escribe(caso));
+        caso.NombreSupuesto.asigna("Desborda");
+        caso.Suma = 1e12;
+        archivo.agrega(desempleo::kDiseno.escribe(caso));
+        archivo.borra(2);
+    }
+    ~LoteTest() override { fs::remove_all(lugar); }
+
+    int ejecutaLote() { return ejecuta(opciones, lugar, salida, errores); }
+
+    fs::path lugar = fs::temp_directory_path() / ("orvemo-lote-" + std::to_string(::getpid()));
+    Opciones opciones{.calculadora = "desempleo", .fichero = lugar / "paro.nom"};
+    std::ostringstream salida, errores;
+};
+
+constexpr const char* kConclusionJson =
+    "El interesado desea solicitar una prestación de desempleo.\\r\\n"
+    "Tiene derecho a 180 días de prestación.\\r\\n"
+    "La base reguladora diaria es de 40,00 €.\\r\\n"
+    "El importe de la prestación es de 28,00 € diarios.\\r\\n";
+
+TEST_F(LoteTest, GivesEachCaseInUseAsAnObjectALine) {
+    opciones.json = true;
+    EXPECT_EQ(ejecutaLote(), kAlgunoFallo);
+    const std::string texto = salida.str();
+    const std::string primera = texto.substr(0, texto.find('\n'));
+    EXPECT_EQ(primera,
+              std::string{"{\"registro\":1,\"supuesto\":\"Dos años\",\"nombre\":\"Elena \\\"Nena\\\" Prado\","
+                          "\"derecho\":true,\"conclusion\":\""} +
+                  kConclusionJson + "\"}");
+    EXPECT_EQ(texto.find("\"registro\":2"), std::string::npos) << "a free slot is no case";
+    EXPECT_NE(texto.find("{\"registro\":3,\"supuesto\":\"Desborda\",\"error\":\""), std::string::npos);
+}
+
+TEST_F(LoteTest, OneRecordAloneInText) {
+    opciones.registro = 1;
+    EXPECT_EQ(ejecutaLote(), kTodoCalculado);
+    EXPECT_EQ(salida.str(),
+              "=== 1. Dos años\n"
+              "Nombre: Elena \"Nena\" Prado\n"
+              "El interesado desea solicitar una prestación de desempleo.\n"
+              "Tiene derecho a 180 días de prestación.\n"
+              "La base reguladora diaria es de 40,00 €.\n"
+              "El importe de la prestación es de 28,00 € diarios.\n"
+              "[CON DERECHO]\n\n");
+}
+
+TEST_F(LoteTest, WhatCannotBeUsedIsToldAndNothingIsMade) {
+    const struct {
+        const char* historia;
+        void (*estropea)(Opciones&, const fs::path&);
+    } casos[] = {
+        {"no such file", [](Opciones& o, const fs::path& d) { o.fichero = d / "nada.nom"; }},
+        {"a directory", [](Opciones& o, const fs::path& d) { o.fichero = d; }},
+        {"no such calculator", [](Opciones& o, const fs::path&) { o.calculadora = "loteria"; }},
+        {"a free record", [](Opciones& o, const fs::path&) { o.registro = 2; }},
+        {"beyond the end", [](Opciones& o, const fs::path&) { o.registro = 9; }},
+        {"no such directory for the reports", [](Opciones& o, const fs::path& d) { o.pdf = d / "nada"; }},
+    };
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(caso.historia);
+        Opciones estropeadas = opciones;
+        caso.estropea(estropeadas, lugar);
+        errores.str({});
+        EXPECT_EQ(ejecuta(estropeadas, lugar, salida, errores), kInservible);
+        EXPECT_FALSE(errores.str().empty());
+    }
+    EXPECT_TRUE(salida.str().empty());
+    EXPECT_FALSE(fs::exists(lugar / "nada.nom"));
+    EXPECT_FALSE(fs::exists(lugar / "desemp.nom")) << "the calculator's own file is not touched";
+}
+
+TEST_F(LoteTest, RandomBytesAreComputedOrToldNeverACrash) {
+    std::string bytes(297 * 20, '\0');
+    unsigned semilla = 7;
+    for (char& byte : bytes) byte = static_cast<char>((semilla = semilla * 1664525 + 1013904223) >> 24);
+    std::ofstream{lugar / "paro.nom", std::ios::binary} << bytes;
+    opciones.json = true;
+    const int estado = ejecutaLote();
+    EXPECT_TRUE(estado == kTodoCalculado || estado == kAlgunoFallo);
+    EXPECT_GE(std::ranges::count(salida.str(), '\n'), 19);
+}
+
+TEST_F(LoteTest, PrintsEachReportToItsPdf) {
+    opciones.registro = 1;
+    opciones.pdf = lugar;
+    EXPECT_EQ(ejecutaLote(), kAlgunoFallo) << "there is no picture to head the page";
+    EXPECT_FALSE(fs::exists(lugar / "desempleo-1.pdf"));
+    QImage logo{4, 2, QImage::Format_RGB32};
+    logo.fill(Qt::blue);
+    ASSERT_TRUE(logo.save(QString::fromStdString((lugar / "logo.bmp").string())));
+    EXPECT_EQ(ejecutaLote(), kTodoCalculado) << salida.str();
+    std::ifstream pdf{lugar / "desempleo-1.pdf", std::ios::binary};
+    std::string cabecera(5, ' ');
+    pdf.read(cabecera.data(), 5);
+    EXPECT_EQ(cabecera, "%PDF-");
+}
+
+}  // namespace
+}  // namespace orvemo::lote

@@ -1,0 +1,48 @@
+#include "lote/opciones_lote.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace orvemo::lote {
+namespace {
+
+Opciones lee(std::vector<std::string> argumentos) {
+    argumentos.insert(argumentos.begin(), "orvemo-lote");
+    return leeOpciones(argumentos);
+}
+
+TEST(OpcionesLote, ReadsAWholeCommandLine) {
+    const Opciones o = lee({"desempleo", "casos.nom", "--registro", "3", "--hoy", "2005-06-15", "--datos",
+                            "/d", "--pdf", "/p", "--json"});
+    EXPECT_EQ(o.calculadora, "desempleo");
+    EXPECT_EQ(o.fichero, "casos.nom");
+    EXPECT_EQ(o.registro, 3);
+    EXPECT_EQ(o.hoy, FechaDMA(15, 6, 2005));
+    EXPECT_EQ(o.datos, "/d");
+    EXPECT_EQ(o.pdf, "/p");
+    EXPECT_TRUE(o.json);
+}
+
+TEST(OpcionesLote, RefusesWhatItCannotUse) {
+    const std::vector<std::vector<std::string>> lineas{
+        {},
+        {"desempleo"},
+        {"desempleo", "a.nom", "b.nom"},
+        {"desempleo", "a.nom", "--registro", "0"},
+        {"desempleo", "a.nom", "--registro", "uno"},
+        {"desempleo", "a.nom", "--hoy", "2005-02-30"},
+        {"desempleo", "a.nom", "--hoy", "15-06-2005"},
+        {"desempleo", "a.nom", "--desconocida"},
+        {"desempleo", "a.nom", "--pdf"},
+    };
+    for (const auto& linea : lineas) EXPECT_THROW(lee(linea), ArgumentoInservible) << linea.size();
+}
+
+TEST(OpcionesLote, HelpIsNoError) {
+    EXPECT_THROW(lee({"--ayuda"}), PideAyuda);
+}
+
+}  // namespace
+}  // namespace orvemo::lote
