@@ -9,6 +9,8 @@ constexpr float kMargen = 1.0F;
 constexpr float kPasoDatos = 0.5F;
 constexpr float kPasoConclusiones = 0.6F;
 constexpr float kSeparacion = 1.0F;
+constexpr float kAnchoColumna = 6.5F;
+constexpr float kFinImporte = 5.0F;  // from the start of its column
 
 }  // namespace
 
@@ -21,6 +23,17 @@ Informe::Informe(RutinasImpresion& rutinas, std::string_view titulo) : rutinas_{
 
 void Informe::linea(std::string_view texto) {
     rutinas_.ImprimeTexto(texto, kMargen, kPasoDatos);
+}
+
+void Informe::columnas(std::span<const CeldaInforme> celdas) {
+    float x = kMargen;
+    for (const CeldaInforme& celda : celdas) {
+        rutinas_.ImprimeTexto(celda.rotulo, x, 0);
+        const auto ancho = static_cast<float>(rutinas_.destino().TextWidth(celda.importe));
+        rutinas_.ImprimeTexto(celda.importe, x + kFinImporte - ancho, 0);
+        x += kAnchoColumna;
+    }
+    rutinas_.AvanzaLinea(kPasoDatos);
 }
 
 void Informe::separa() {

@@ -1,10 +1,18 @@
 #pragma once
 
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "printing/rutinas_impresion.h"
 
 namespace orvemo {
+
+/// A label and an amount, side by side in one column of a report.
+struct CeldaInforme {
+    std::string rotulo;
+    std::string importe;
+};
 
 /// The shape that the reports of the calculators share: title, data lines, a step, the conclusions.
 class Informe {
@@ -14,6 +22,8 @@ class Informe {
 
     /// One line of data.
     void linea(std::string_view texto);
+    /// One line of several columns, the amounts of each aligned on the right.
+    void columnas(std::span<const CeldaInforme> celdas);
     /// The empty step between data and conclusions.
     void separa();
     /// "CONCLUSIONES", bold and underlined.
