@@ -8,6 +8,7 @@
 #include "benefits/ilt_frm.h"
 #include "benefits/mater_frm.h"
 #include "benefits/riesgo_embarazo_frm.h"
+#include "pensions/pension_frm.h"
 #include "shell/fondo_frm.h"
 #include "shell/presenta_frm.h"
 
@@ -26,6 +27,7 @@ struct PantallaDisponible {
 };
 
 constexpr std::array kDisponibles{
+    PantallaDisponible{"PensionFrm", crea<PensionFrm>},
     PantallaDisponible{"DesempFrm", crea<DesempFrm>},
     PantallaDisponible{"MaterFrm", crea<MaterFrm>},
     PantallaDisponible{"ILTFrm", crea<ILTFrm>},
