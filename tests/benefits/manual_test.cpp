@@ -1,0 +1,25 @@
+// The stories of the user's manual are what the program says.
+#include "apoyo/manual.h"
+
+#include <gmock/gmock.h>
+
+#include "apoyo/entorno_falso.h"
+#include "benefits/desemp_frm.h"
+#include "benefits/ilt_frm.h"
+#include "benefits/mater_frm.h"
+#include "benefits/riesgo_embarazo_frm.h"
+
+namespace orvemo::pruebas {
+namespace {
+
+TEST(Manual, TellsItsStoriesAsTheProgramDoes) {
+    EntornoFalso mundo;
+    compruebaManual<DesempFrm>(mundo.entorno, ORVEMO_MANUAL, "Desempleo");
+    compruebaManual<ILTFrm>(mundo.entorno, ORVEMO_MANUAL, "Incapacidad temporal");
+    compruebaManual<MaterFrm>(mundo.entorno, ORVEMO_MANUAL, "Maternidad");
+    compruebaManual<RiesgoEmbarazo>(mundo.entorno, ORVEMO_MANUAL, "Riesgo durante el embarazo");
+    EXPECT_THAT(mundo.mensajes.dichos, testing::IsEmpty());
+}
+
+}  // namespace
+}  // namespace orvemo::pruebas
