@@ -21,9 +21,7 @@ struct Minimos {
 constexpr Minimos kMinimosAntesDe65{489.72, 408.78};
 constexpr Minimos kMinimosDesde65{524.01, 438.71};
 
-constexpr int kAnioDelPrograma = 2005;
 constexpr int kInflacionEstimada = 2;  // percent a year
-constexpr double kSubidaAnual = 1.02;
 
 /// The limits of the pension, at the prices of the year of retirement.
 struct Limites {

@@ -1,45 +1,20 @@
 #include "pensions/pension_frm.h"
 
-#include <cmath>
-#include <utility>
-
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 #include "pensions/jubilacion.h"
+#include "pensions/jubilacion_cuantia.h"
 
 namespace orvemo {
 
 namespace {
 
+using jubilacion::kAnioDelPrograma;
 using jubilacion::kFilasPeriodos;
-using jubilacion::kLineasGuardadas;
 using jubilacion::Regimen;
-using pensiones::AnioDelMesAnterior;
-using pensiones::MesDelMesAnterior;
 
-// Panels. There is a panel for each frame of bases.
-constexpr int kDatos = 0;
-constexpr int kPeriodos = 1;
-constexpr int kModoBases = 2;
-constexpr int kPrimerMarco = 3;
-constexpr int kMarcos = 5;
-constexpr int kConclusiones = kPrimerMarco + kMarcos;
-
-constexpr int kLineasPorMarco = 48;  // four years
-constexpr int kLineasPorColumna = 12;
-
-constexpr int kAnioDelPrograma = 2005;
-constexpr double kSubidaAnual = 1.02;  // of the bases still to come
 constexpr double kMaximaBaseActual = 999'999;
 constexpr double kMaximaSuma = 99'999'999;
-
-constexpr const char* kFormatoBase = "###,##0.00";
-constexpr const char* kTextoImporte = "#0.00";  // without thousands marks, as amounts are read
-constexpr const char* kTextoFecha = "dd-MM-yyyy";
-
-std::uint8_t unoSi(const Campo& casilla) {
-    return casilla.marcado() ? 1 : 0;
-}
 
 std::string_view motivoDeDesde(const std::string& desde) {
     if (EsVacio(desde) || EsFecha(desde)) return {};
@@ -167,36 +142,6 @@ std::vector<PensionFrm::FilaPeriodo> PensionFrm::nuevasFilas() {
     return filas;
 }
 
-std::vector<Grupo*> PensionFrm::nuevosMarcosDeBases() {
-    std::vector<Grupo*> marcos;
-    for (int marco = 0; marco < kMarcos; ++marco) {
-        marcos.push_back(&nuevoGrupo({.nombre = "JubiBases" + TextoPlano(marco + 1),
-                                      .pantalla = kPrimerMarco + marco,
-                                      .disposicion = Disposicion::Columnas,
-                                      .columnas = kLineasPorMarco / kLineasPorColumna}));
-    }
-    return marcos;
-}
-
-std::vector<Campo*> PensionFrm::nuevasBases() {
-    std::vector<Campo*> bases;
-    bases.reserve(kLineasGuardadas);
-    for (int i = 1; i <= kLineasGuardadas; ++i) {
-        const int marco = (i - 1) / kLineasPorMarco;
-        bases.push_back(&nuevo({.nombre = "JubiBase",
-                                .indice = i,
-                                .pantalla = kPrimerMarco + marco,
-                                .grupo = marcos_[static_cast<std::size_t>(marco)],
-                                .defecto = "0",
-                                .filtro = TeclaNumero,
-                                .formato = kFormatoBase,
-                                .alSalir = [this, i](Campo&) { dejaBase(i); },
-                                .alEscribir = [this](Campo&) { BaseEditada_ = true; },
-                                .anchura = 10}));
-    }
-    return bases;
-}
-
 // --- Panels
 
 void PensionFrm::Inicia() {
@@ -275,145 +220,6 @@ bool PensionFrm::rechaza(Campo& campo, std::string_view motivo) {
     DatoMal = true;
     campo.pideFoco();
     return true;
-}
-
-void PensionFrm::dejaBase(int i) {
-    if (Cargando) return;
-    CompruebaRango(JubiBase(i), "0", "999999", DatoMal, mensajes());
-    if (DatoMal || i == serie_.MesesBases || !BaseEditada_) return;
-    const int anio = anioDeBase(i);
-    const int ultima = Menor(i + 12, serie_.MesesBases);
-    for (int j = i + 1; j <= ultima; ++j) {
-        if (anioDeBase(j) == anio) JubiBase(j).ponTexto(JubiBase(j - 1).texto());
-    }
-    BaseEditada_ = false;
-}
-
-// --- Series of bases
-
-void PensionFrm::PreparaBasesJubilacion() {
-    preparaSerie();
-    proyectaBases();
-}
-
-void PensionFrm::preparaSerie() {
-    const Fecha jubilacion = FechaDe(JubiFechaJub.texto());
-    referencia_ = jubilacion::FechaReferencia(static_cast<Regimen>(JubiRegimen.indice() + 1), jubilacion,
-                                              ultimosDias());
-    serie_ = pensiones::SerieBasesDe(Anio(jubilacion));
-    for (int marco = 1; marco <= kMarcos; ++marco) {
-        marcos_[static_cast<std::size_t>(marco - 1)]->ponTitulo("Bases de cotización de los últimos " +
-                                                                TextoPlano(serie_.MesesBases) + "  meses (" +
-                                                                TextoPlano(marco) + ")");
-    }
-    for (int i = 1; i <= kLineasGuardadas; ++i) {
-        JubiBase(i).ponVisible(i <= serie_.MesesBases);
-        if (i <= serie_.MesesBases) JubiBase(i).ponRotulo(rotuloDeBase(i));
-    }
-}
-
-/// Estimates the months of 2005 and later from the present base. A month already filled is asked about, once;
-/// one still empty is filled at once, and the filled ones after it are then filled too.
-void PensionFrm::proyectaBases() {
-    const double baseActual = DobleDe(JubiBaseActual.texto());
-    if (baseActual == baseActualProyectada_) return;
-    bool preguntado = false;
-    bool recalcula = false;
-    for (int i = 1; i <= serie_.MesesBases; ++i) {
-        const int anios = anioDeBase(i) - kAnioDelPrograma;
-        if (anios < 0) continue;
-        if (DobleDe(JubiBase(i).texto()) == 0) {
-            recalcula = true;
-        } else if (!std::exchange(preguntado, true)) {
-            recalcula = mensajes().Confirma("¿Recalcular bases futuras proyectadas?");
-        }
-        if (recalcula) {
-            JubiBase(i).ponTexto(FormatoNumero(baseActual * std::pow(kSubidaAnual, anios), kTextoImporte));
-        }
-    }
-    baseActualProyectada_ = baseActual;
-}
-
-std::string PensionFrm::rotuloDeBase(int i) const {
-    const Fecha mes = pensiones::PrimeroDeMes(anioDeBase(i), MesDelMesAnterior(referencia_, i));
-    return FormatoNumero(i, "0#") + ". " + FormatoFecha(mes, "mmm-yy");
-}
-
-int PensionFrm::anioDeBase(int i) const {
-    return AnioDelMesAnterior(referencia_, i);
-}
-
-jubilacion::UltimosDias PensionFrm::ultimosDias() const {
-    jubilacion::UltimosDias dias;
-    for (std::size_t i = 0; i < dias.size(); ++i) dias[i] = periodos[i].JubiPerHasta.texto();
-    return dias;
-}
-
-// --- Record
-
-void PensionFrm::tomaCampos() {
-    caso_.JubiNombre.asigna(Recorta(JubiNombre.texto()));
-    caso_.JubiFechaNac = FechaDe(JubiFechaNac.texto());
-    caso_.JubiFechaJub = FechaDe(JubiFechaJub.texto());
-    caso_.JubiRegimen = static_cast<std::uint8_t>(JubiRegimen.indice());
-    caso_.JubiConyuge = unoSi(JubiConyuge);
-    caso_.JubiVoluntario = unoSi(JubiVoluntario);
-    caso_.JubiNoImputable = unoSi(JubiNoImputable);
-    tomaPeriodos();
-    caso_.JubiBasesDesglosadas = unoSi(JubiBasesDesglosadas);
-    for (int i = 1; i <= kLineasGuardadas; ++i) {
-        caso_.JubiBase[static_cast<std::size_t>(i - 1)] = DobleDe(JubiBase(i).texto());
-    }
-    caso_.JubiSumaBases = DobleDe(JubiSumaBases.texto());
-    caso_.JubiBaseActual = DobleDe(JubiBaseActual.texto());
-    caso_.JubiRedJor = DobleDe(JubiRedJor.texto());
-    caso_.HorasTP = DobleDe(HorasTP.texto());
-    caso_.HorasTP15 = DobleDe(HorasTP15.texto());
-    caso_.marca.asigna("DP");
-}
-
-void PensionFrm::tomaPeriodos() {
-    for (std::size_t i = 0; i < periodos.size(); ++i) {
-        caso_.JubiPerDesde[i].asigna(Recorta(periodos[i].JubiPerDesde.texto()));
-        caso_.JubiPerHasta[i].asigna(Recorta(periodos[i].JubiPerHasta.texto()));
-        caso_.JubiPerEmpresa[i].asigna(Recorta(periodos[i].JubiPerEmpresa.texto()));
-    }
-}
-
-void PensionFrm::cargaCampos() {
-    JubiNombre.ponTexto(caso_.JubiNombre.utf8());
-    JubiFechaNac.ponTexto(FormatoFecha(caso_.JubiFechaNac, kTextoFecha));
-    JubiFechaJub.ponTexto(FormatoFecha(caso_.JubiFechaJub, kTextoFecha));
-    JubiRegimen.ponIndice(caso_.JubiRegimen);
-    JubiConyuge.ponMarcado(caso_.JubiConyuge == 1);
-    JubiVoluntario.ponMarcado(caso_.JubiVoluntario == 1);
-    JubiNoImputable.ponMarcado(caso_.JubiNoImputable == 1);
-    cargaPeriodos();
-    JubiBasesDesglosadas.ponMarcado(caso_.JubiBasesDesglosadas == 1);
-    for (int i = 1; i <= kLineasGuardadas; ++i) {
-        JubiBase(i).ponTexto(FormatoNumero(caso_.JubiBase[static_cast<std::size_t>(i - 1)], kTextoImporte));
-    }
-    JubiSumaBases.ponTexto(FormatoNumero(caso_.JubiSumaBases, kTextoImporte));
-    JubiBaseActual.ponTexto(FormatoNumero(caso_.JubiBaseActual, kTextoImporte));
-    JubiRedJor.ponTexto(TextoPlano(caso_.JubiRedJor));
-    HorasTP.ponTexto(TextoPlano(caso_.HorasTP));
-    HorasTP15.ponTexto(TextoPlano(caso_.HorasTP15));
-}
-
-void PensionFrm::cargaPeriodos() {
-    for (std::size_t i = 0; i < periodos.size(); ++i) {
-        periodos[i].JubiPerDesde.ponTexto(caso_.JubiPerDesde[i].utf8());
-        periodos[i].JubiPerHasta.ponTexto(caso_.JubiPerHasta[i].utf8());
-        periodos[i].JubiPerEmpresa.ponTexto(caso_.JubiPerEmpresa[i].utf8());
-    }
-}
-
-void PensionFrm::trasCargar() {
-    // Unchanged data must not offer a new projection.
-    baseActualProyectada_ = DobleDe(JubiBaseActual.texto());
-    BaseEditada_ = false;
-    ajustaVisibles();
-    preparaSerie();
 }
 
 }  // namespace orvemo

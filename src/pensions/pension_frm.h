@@ -44,6 +44,17 @@ class PensionFrm final : public CalculadoraDe<jubilacion::RegistroJubilacion, ju
     void dejaPantalla(int pantalla) override;
 
   private:
+    // Panels. There is one for each frame of bases.
+    static constexpr int kDatos = 0;
+    static constexpr int kPeriodos = 1;
+    static constexpr int kModoBases = 2;
+    static constexpr int kPrimerMarco = 3;
+    static constexpr int kMarcos = 5;
+    static constexpr int kConclusiones = kPrimerMarco + kMarcos;
+
+    static constexpr const char* kFormatoBase = "###,##0.00";
+    static constexpr const char* kTextoImporte = "#0.00";  ///< as amounts are read: no thousands marks
+
     struct FilaPeriodo {
         Campo& JubiPerDesde;
         Campo& JubiPerHasta;

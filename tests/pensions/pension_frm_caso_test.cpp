@@ -1,0 +1,172 @@
+#include "pensions/pension_frm.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "foundations/values/fallos.h"
+#include "pensions/pantalla_jubilacion.h"
+
+namespace orvemo {
+namespace {
+
+using testing::ElementsAre;
+
+using CasoJubilacionTest = pruebas::PantallaJubilacion;
+
+// --- Case file
+
+TEST_F(CasoJubilacionTest, ACaseLiesInTheFileByteByByte) {
+    rellena();
+    frm.MuestraPantalla(0);
+    frm.elige(frm.JubiRegimen, 5);
+    escribe(frm.JubiRedJor, "12,5");
+    frm.marca(frm.JubiConyuge, true);
+    frm.marca(frm.JubiNoImputable, true);
+    sigue();
+    escribe(frm.HorasTP, "1000,5");
+    escribe(frm.HorasTP15, "500");
+    escribe(frm.periodos[9].JubiPerHasta, "31-12-2003");
+    sigue();
+    frm.marca(frm.JubiBasesDesglosadas, true);
+    frm.JubiBaseActual.ponTexto("750,25");
+    frm.JubiBase(1).ponTexto("1234,56");
+    frm.JubiBase(196).ponTexto("7");
+    graba();
+
+    const std::string& bytes = mundo.almacen["jubila.nom"];
+    ASSERT_EQ(bytes.size(), 2592U);
+    const auto doble = [&](std::size_t en) {
+        double x = 0;
+        std::memcpy(&x, &bytes[en], 8);
+        return x;
+    };
+    EXPECT_EQ(bytes.substr(0, 8), " Caso 1 ");
+    EXPECT_EQ(bytes.substr(81, 12), "Mar\355a \321\372\361ez ");
+    EXPECT_EQ(doble(161), 14777) << "15-06-1940 in days since 30-12-1899";
+    EXPECT_EQ(doble(169), 38518) << "15-06-2005";
+    EXPECT_EQ(bytes.substr(177, 4), (std::string{5, 1, 0, 1}));
+    EXPECT_EQ(bytes.substr(181, 12), "01-01-1970  ");
+    EXPECT_EQ(bytes.substr(281, 10), std::string(10, '\0')) << "the eleventh row is never written";
+    EXPECT_EQ(bytes.substr(291, 10), "31-05-2005");
+    EXPECT_EQ(bytes.substr(381, 10), "31-12-2003") << "the tenth row";
+    EXPECT_EQ(bytes.substr(401, 20), "F\341brica de Hilos    ");
+    EXPECT_EQ(bytes[621], 1);
+    EXPECT_EQ(doble(622), 1234.56);
+    EXPECT_EQ(doble(622 + 8 * 195), 7);
+    EXPECT_EQ(bytes.substr(622 + 8 * 196, 8 * 44), std::string(8 * 44, '\0')) << "196 lines are stored";
+    EXPECT_EQ(doble(2542), 210000);
+    EXPECT_EQ(doble(2550), 750.25);
+    EXPECT_EQ(doble(2558), 12.5);
+    EXPECT_EQ(doble(2566), 0);
+    EXPECT_EQ(doble(2574), 1000.5);
+    EXPECT_EQ(doble(2582), 500);
+    EXPECT_EQ(bytes.substr(2590), "DP");
+}
+
+TEST_F(CasoJubilacionTest, ASavedCaseComesBackAsItWas) {
+    rellena();
+    frm.MuestraPantalla(0);
+    frm.elige(frm.JubiRegimen, 5);
+    escribe(frm.JubiRedJor, "12,5");
+    frm.marca(frm.JubiVoluntario, true);
+    sigue(2);
+    frm.marca(frm.JubiBasesDesglosadas, true);
+    frm.JubiBase(180).ponTexto("1234,5");
+    graba();
+    const std::string primero = mundo.almacen["jubila.nom"];
+
+    ASSERT_TRUE(frm.pulsa(frm.BotonNuevo));
+    EXPECT_EQ(frm.periodos[0].JubiPerDesde.texto() + frm.JubiBase(180).texto(), "0");
+    EXPECT_FALSE(frm.JubiRedJor.visible());
+    vista.alCargar = [](CargaSupuesto& dialogo) {
+        dialogo.selecciona(0);
+        dialogo.BotonCargar();
+    };
+    ASSERT_TRUE(frm.pulsa(frm.BotonCarga));
+    EXPECT_EQ(frm.PantallaActual(), 0);
+    EXPECT_EQ(frm.JubiNombre.texto(), "María Ñúñez");
+    EXPECT_EQ(frm.JubiFechaNac.texto(), "15-06-1940");
+    EXPECT_EQ(frm.JubiRegimen.texto(), "Jubilación Parcial");
+    EXPECT_EQ(frm.JubiRedJor.texto(), "12,5");
+    EXPECT_TRUE(frm.JubiRedJor.visible());
+    EXPECT_TRUE(frm.JubiVoluntario.marcado());
+    EXPECT_EQ(frm.periodos[0].JubiPerEmpresa.texto(), "Fábrica de Hilos");
+    EXPECT_EQ(frm.JubiBase(180).texto(), "1234,50");
+    EXPECT_EQ(frm.JubiSumaBases.texto(), "210000,00");
+    EXPECT_FALSE(frm.JubiSumaBases.visible());
+    mundo.mensajes.respuestas = {true};
+    graba();
+    EXPECT_TRUE(mundo.almacen["jubila.nom"] == primero) << "saved again, the same bytes";
+}
+
+TEST_F(CasoJubilacionTest, ARecordOfRubbishIsShownAndNothingFails) {
+    mundo.almacen["jubila.nom"] = std::string(2592, '\xFF') + std::string(2592, '\0');
+    frm.DatosCargaRegistro(1);
+    EXPECT_EQ(frm.JubiFechaNac.texto(), "01-01-1900");
+    EXPECT_EQ(frm.JubiRegimen.texto(), "Jubilación Parcial") << "a list goes no further than its last entry";
+    EXPECT_EQ(frm.JubiBase(1).texto(), "");
+    frm.MuestraPantalla(frm.ultimaPantalla());
+    EXPECT_TRUE(frm.Mal.visible());
+    frm.DatosCargaRegistro(2);
+    EXPECT_EQ(frm.JubiFechaNac.texto(), "30-12-1899");
+    EXPECT_EQ(frm.periodos[0].JubiPerDesde.texto(), "");
+    frm.MuestraPantalla(frm.ultimaPantalla());
+    EXPECT_THAT(frm.textoConclusion(),
+                testing::StartsWith("El interesado desea jubilarse a los 0 años.\r\n"));
+}
+
+// --- Report
+
+TEST_F(CasoJubilacionTest, TheReportOfASumTellsItsLines) {
+    rellena();
+    sigue();
+    ASSERT_TRUE(frm.pulsa(frm.BotonPrint));
+    EXPECT_THAT(
+        mundo.impresora.lineas,
+        ElementsAre(
+            "PENSIÓN DE JUBILACIÓN", "Nombre:María Ñúñez", "Fecha de nacimiento del solicitante: 15-06-1940",
+            "Fecha de efectiva de la jubilación: 15-06-2005", "Régimen de la Seguridad Social: R. General",
+            "Periodos cotizados:", "Del 01-01-1970 al 31-05-2005 en Fábrica de Hilos",
+            "Suma de las Bases de Cotización por C.Comunes en los últimos 180 meses: 210.000,00",
+            "CONCLUSIONES", "El interesado desea jubilarse a los 65 años.", "Ha cotizado durante 36 años.",
+            "Además,  en los 15 últimos años ha cotizado 15 años.",
+            "El periodo mínimo de cotización exigido es de 15 años así como 2 años dentro",
+            "de los 15 años anteriores a la solicitud.",
+            "El interesado cumple los periodos mínimos de cotización exigidos.",
+            "El periodo cotizado a efectos de cálculo del % a aplicar sobre la base",
+            "reguladora es de 36 años.", "El porcentaje a aplicar sobre la base reguladora es de 100%",
+            "siendo la base reguladora de 1.000,00 €.",
+            "La cuantía de la pensión es de 1.000,00 €/mes (con dos pagas extras)."));
+    EXPECT_THAT(mundo.mensajes.dichos, ElementsAre("Informa: Impresión terminada"));
+}
+
+TEST_F(CasoJubilacionTest, TheReportOfTheBasesRunsDownThreeColumns) {
+    vaABases();
+    for (int i = 1; i <= 180; ++i) frm.JubiBase(i).ponTexto(std::to_string(1000 + i) + ",5");
+    ASSERT_TRUE(frm.pulsa(frm.BotonPrint));
+    const auto& lineas = mundo.impresora.lineas;
+    const auto titulo = std::ranges::find(lineas, "Bases de cotización de los últimos 180 meses:");
+    ASSERT_NE(titulo, lineas.end());
+    EXPECT_EQ(titulo[1], "01. may-051.001,5061. may-001.061,50121. may-951.121,50");
+    EXPECT_EQ(titulo[60], "60. jun-001.060,50120. jun-951.120,50180. jun-901.180,50");
+    EXPECT_EQ(titulo[61], "CONCLUSIONES");
+
+    std::vector<std::string> primeraFila;
+    for (const pruebas::Operacion& op : mundo.impresora.operaciones) {
+        if (op.tipo == pruebas::Operacion::Tipo::Texto && op.pagina == 1 && op.y == 9.0)
+            primeraFila.push_back(descripcion(op));
+    }
+    EXPECT_THAT(primeraFila,
+                ElementsAre("Texto 1,9 Arial 12 «01. may-05»", "Texto 4.4,9 Arial 12 «1.001,50»",
+                            "Texto 7.5,9 Arial 12 «61. may-00»", "Texto 10.9,9 Arial 12 «1.061,50»",
+                            "Texto 14,9 Arial 12 «121. may-95»", "Texto 17.4,9 Arial 12 «1.121,50»"))
+        << "the amounts end 5 cm from the start of their column";
+}
+
+}  // namespace
+}  // namespace orvemo

@@ -1,0 +1,201 @@
+#include "pensions/pension_frm.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "foundations/values/fallos.h"
+#include "pensions/pantalla_jubilacion.h"
+
+namespace orvemo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using PensionFrmTest = pruebas::PantallaJubilacion;
+
+// --- Opening
+
+TEST_F(PensionFrmTest, OpensCleanOnItsDefaults) {
+    EXPECT_EQ(frm.Caption(), "Cálculo de pensiones de jubilación");
+    EXPECT_EQ(frm.Titulo(), "PENSIONES DE JUBILACIÓN");
+    EXPECT_EQ(frm.actual(), &frm.JubiNombre);
+    EXPECT_EQ(frm.JubiFechaNac.texto(), "15-06-2005");
+    EXPECT_EQ(frm.JubiFechaJub.texto(), "15-06-2005");
+    EXPECT_EQ(frm.JubiRegimen.texto(), "R. General");
+    EXPECT_EQ(
+        frm.JubiRedJor.texto() + frm.HorasTP.texto() + frm.HorasTP15.texto() + frm.JubiSumaBases.texto(),
+        "0000");
+    EXPECT_EQ(frm.periodos[9].JubiPerDesde.texto(), "");
+    EXPECT_FALSE(frm.JubiRedJor.visible());
+    EXPECT_FALSE(frm.JubiBaseActual.visible());
+    EXPECT_FALSE(frm.JubiBasesDesglosadas.marcado());
+}
+
+TEST_F(PensionFrmTest, DoesNotOpenWithoutItsPriceIndex) {
+    mundo.almacen.ficheros.clear();
+    EXPECT_THROW(frm.Inicia(), FicheroInaccesible);
+    mundo.almacen["ipc.txt"] = "1984\nx\tx\t100\n";
+    EXPECT_THROW(frm.Inicia(), FicheroMalFormado);
+}
+
+// --- Panels
+
+TEST_F(PensionFrmTest, WithASumNoPanelOfBasesShows) {
+    rellena();
+    EXPECT_TRUE(frm.JubiSumaBases.visible());
+    sigue();
+    EXPECT_EQ(frm.PantallaActual(), frm.ultimaPantalla());
+    EXPECT_TRUE(frm.Ok.visible());
+    EXPECT_THAT(frm.textoConclusion(), testing::EndsWith("de 1.000,00 €/mes (con dos pagas extras).\r\n"));
+    ASSERT_TRUE(frm.pulsa(frm.Anterior));
+    EXPECT_EQ(frm.actual(), &frm.JubiBasesDesglosadas);
+    EXPECT_THAT(vista.pantallas, ElementsAre(0, 1, 2, 8, 2));
+}
+
+TEST_F(PensionFrmTest, BaseByBaseTheFramesOfTheYearShow) {
+    struct Anio {
+        const char* jubilacion;
+        std::vector<int> pantallas;
+        int visibles;
+        const char* titulo;
+    };
+    const Anio anios[] = {
+        {"15-06-2005", {1, 2, 3, 4, 5, 6, 8, 6}, 180, "Bases de cotización de los últimos 180  meses (1)"},
+        {"15-06-2001", {1, 2, 3, 4, 5, 6, 8, 6}, 156, "Bases de cotización de los últimos 156  meses (1)"},
+        {"15-06-2000", {1, 2, 3, 4, 5, 8, 5}, 144, "Bases de cotización de los últimos 144  meses (1)"},
+        {"15-06-1998", {1, 2, 3, 4, 5, 8, 5}, 120, "Bases de cotización de los últimos 120  meses (1)"},
+    };
+    for (const Anio& anio : anios) {
+        SCOPED_TRACE(anio.jubilacion);
+        frm.Inicia();
+        escribe(frm.JubiFechaJub, anio.jubilacion);
+        vista.pantallas.clear();
+        vaABases();
+        while (frm.PantallaActual() != frm.ultimaPantalla()) sigue();
+        ASSERT_TRUE(frm.pulsa(frm.Anterior));
+        EXPECT_EQ(vista.pantallas, anio.pantallas);
+        EXPECT_FALSE(frm.JubiSumaBases.visible());
+        EXPECT_TRUE(frm.JubiBase(anio.visibles).visible());
+        EXPECT_FALSE(frm.JubiBase(anio.visibles + 1).visible());
+        EXPECT_EQ(frm.JubiBase(1).def().grupo->titulo(), anio.titulo);
+    }
+}
+
+TEST_F(PensionFrmTest, PartialRetirementAsksForTheReduction) {
+    frm.elige(frm.JubiRegimen, 5);
+    EXPECT_TRUE(frm.JubiRedJor.visible());
+    frm.elige(frm.JubiRegimen, 4);
+    EXPECT_FALSE(frm.JubiRedJor.visible());
+}
+
+// --- Date of retirement
+
+TEST_F(PensionFrmTest, AFutureRetirementAsksForThePresentBase) {
+    escribe(frm.JubiFechaJub, "15-06-2007");
+    ASSERT_TRUE(frm.foco(frm.JubiNombre));
+    EXPECT_TRUE(frm.JubiBaseActual.visible());
+    escribe(frm.JubiFechaJub, "31-12-2005");
+    ASSERT_TRUE(frm.foco(frm.JubiNombre));
+    EXPECT_FALSE(frm.JubiBaseActual.visible());
+    EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
+}
+
+TEST_F(PensionFrmTest, WithoutTheSwitchAFutureRetirementFallsBackToTheYear) {
+    mundo.valores.VerBaseActual = false;
+    escribe(frm.JubiFechaJub, "01-01-2006");
+    EXPECT_FALSE(frm.foco(frm.JubiNombre));
+    EXPECT_THAT(mundo.mensajes.dichos, ElementsAre("Error: La fecha debe ser del año en curso"));
+    EXPECT_EQ(frm.JubiFechaJub.texto(), "31-12-2005");
+    EXPECT_EQ(frm.actual(), &frm.JubiFechaJub);
+    EXPECT_FALSE(frm.JubiBaseActual.visible());
+    EXPECT_TRUE(frm.foco(frm.JubiNombre));
+}
+
+// --- Periods
+
+TEST_F(PensionFrmTest, APeriodIsRefusedWithItsReason) {
+    struct Fila {
+        const char *desde, *hasta, *mensaje;
+    };
+    const Fila filas[] = {
+        {"1-1-2000", "", "Error: La fecha no puede quedar en blanco."},
+        {"2-1-2000", "01-01-2000",
+         "Error: La fecha de finalización del periodo no puede ser anterior a la inicial."},
+        {"1-1-2000", "31-2-2000", "Error: La fecha no es correcta. Debe ser de tipo dd-mm-aaaa"},
+    };
+    sigue();
+    for (const Fila& fila : filas) {
+        SCOPED_TRACE(fila.mensaje);
+        mundo.mensajes.dichos.clear();
+        Campo& hasta = frm.periodos[0].JubiPerHasta;
+        escribe(hasta, "1-1-2010");
+        escribe(frm.periodos[0].JubiPerDesde, fila.desde);
+        escribe(hasta, fila.hasta);
+        EXPECT_FALSE(frm.foco(frm.HorasTP));
+        EXPECT_THAT(mundo.mensajes.dichos, ElementsAre(fila.mensaje));
+        EXPECT_EQ(frm.actual(), &hasta);
+        EXPECT_EQ(hasta.texto(), fila.hasta) << "what was typed stays";
+        frm.escribe(hasta, "1-1-2010");
+    }
+}
+
+TEST_F(PensionFrmTest, AGoodPeriodIsRewrittenAndABlankOnePasses) {
+    sigue();
+    escribe(frm.periodos[0].JubiPerDesde, "1/1/70");
+    escribe(frm.periodos[0].JubiPerHasta, "1-1-1970");
+    escribe(frm.periodos[1].JubiPerDesde, "");
+    escribe(frm.periodos[1].JubiPerHasta, "");
+    escribe(frm.periodos[2].JubiPerHasta, "31/12/99");
+    sigue();
+    EXPECT_EQ(frm.periodos[0].JubiPerDesde.texto(), "01-01-1970");
+    EXPECT_EQ(frm.periodos[2].JubiPerHasta.texto(), "31-12-1999") << "a last day without its first";
+    EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
+}
+
+TEST_F(PensionFrmTest, AFirstDayChangedAfterwardsIsCaughtOnGoingOn) {
+    sigue();
+    escribe(frm.periodos[3].JubiPerDesde, "01-01-2000");
+    escribe(frm.periodos[3].JubiPerHasta, "01-01-2001");
+    escribe(frm.periodos[3].JubiPerDesde, "01-01-2002");
+    ASSERT_TRUE(frm.foco(frm.HorasTP));
+    ASSERT_TRUE(frm.pulsa(frm.Siguiente));
+    EXPECT_THAT(
+        mundo.mensajes.dichos,
+        ElementsAre("Error: La fecha de finalización del periodo no puede ser anterior a la inicial."));
+    EXPECT_EQ(frm.PantallaActual(), 1);
+    EXPECT_EQ(frm.actual(), &frm.periodos[3].JubiPerHasta);
+}
+
+// --- Amounts
+
+TEST_F(PensionFrmTest, AmountsOutOfTheirLimitsAreRefused) {
+    escribe(frm.JubiFechaJub, "15-06-2007");
+    ASSERT_TRUE(frm.foco(frm.JubiNombre));
+    escribe(frm.JubiBaseActual, "1000000");
+    EXPECT_FALSE(frm.foco(frm.JubiNombre));
+    frm.escribe(frm.JubiBaseActual, "999999");
+    ASSERT_TRUE(frm.foco(frm.JubiNombre));
+    escribe(frm.JubiBaseActual, "0");
+    sigue(2);
+    escribe(frm.JubiSumaBases, "100000000");
+    EXPECT_FALSE(frm.pulsa(frm.Siguiente));
+    frm.escribe(frm.JubiSumaBases, "-1");
+    EXPECT_FALSE(frm.pulsa(frm.Siguiente));
+    frm.escribe(frm.JubiSumaBases, "99999999,99");
+    frm.marca(frm.JubiBasesDesglosadas, true);
+    sigue();
+    escribe(frm.JubiBase(2), "1000000");
+    EXPECT_FALSE(frm.pulsa(frm.Siguiente));
+    EXPECT_THAT(mundo.mensajes.dichos,
+                ElementsAre("Error: El número no es correcto. Debe introducir un número entre 0 y 999,999",
+                            "Error: El número no es correcto. Debe introducir un número entre 0 y 99,999,999",
+                            "Error: El número no es correcto. Debe introducir un número entre 0 y 99,999,999",
+                            "Error: El número no es correcto. Debe introducir un número entre 0 y 999999"));
+}
+
+}  // namespace
+}  // namespace orvemo
