@@ -154,6 +154,7 @@ TEST_F(EnDirectorio, WhatCannotBeCreatedReadsAsEmptyAndWritingSaysWhy) {
     pon("suelto", "");
     DirectorioAplicacion sinCarpeta{carpeta / "ausente"};
     DirectorioAplicacion sobreFichero{carpeta / "suelto"};
+    DirectorioAplicacion directorio{carpeta};
     const std::string nombreLargo(300, 'n');
     struct {
         const char* titulo;
@@ -163,6 +164,7 @@ TEST_F(EnDirectorio, WhatCannotBeCreatedReadsAsEmptyAndWritingSaysWhy) {
     } const casos[] = {
         {"no directory", sinCarpeta, "caso.nom", "no existe"},
         {"a file where the directory should be", sobreFichero, "caso.nom", "su carpeta no existe"},
+        {"a name too long for the disk", directorio, nombreLargo, "el nombre es demasiado largo"},
     };
     for (const auto& caso : casos) {
         const auto vacio = caso.directorio.abre(caso.nombre, Acceso::Lectura);
@@ -170,7 +172,7 @@ TEST_F(EnDirectorio, WhatCannotBeCreatedReadsAsEmptyAndWritingSaysWhy) {
         EXPECT_EQ("", lee(*vacio, 0, 10)) << caso.titulo;
         EXPECT_EQ(0U, vacio->escribe(0, std::string{"x"})) << caso.titulo;
         EXPECT_FALSE(vacio->corta(0)) << caso.titulo;
-        const std::string esperado = noSePuedeUsar(caso.nombre, caso.motivo);
+        const std::string esperado = FicheroInaccesible{caso.nombre, caso.motivo}.what();
         EXPECT_EQ(esperado, fallo([&] { (void)caso.directorio.abre(caso.nombre, Acceso::Escritura); }));
         EXPECT_EQ(esperado, fallo([&] { (void)caso.directorio.leeTodo(caso.nombre); })) << caso.titulo;
         EXPECT_EQ(esperado, fallo([&] { caso.directorio.sustituye(caso.nombre, "x"); })) << caso.titulo;

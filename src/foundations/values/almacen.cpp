@@ -48,6 +48,10 @@ std::error_code errorDelSistema() {
     return {errno, std::generic_category()};
 }
 
+[[noreturn]] void rechaza(const fs::path& ruta, const std::string& porque) {
+    throw FicheroInaccesible{ruta.filename().string(), porque};
+}
+
 bool esCarpeta(const fs::path& ruta) {
     std::error_code error;
     return fs::is_directory(ruta, error);
@@ -67,9 +71,21 @@ std::fstream abreFlujo(const fs::path& ruta, std::ios::openmode modo) {
     return flujo;
 }
 
-/// Makes an empty file where there is none; says nothing when it can't.
-void creaSiFalta(const fs::path& ruta) {
-    if (!existeAlgo(ruta)) abreFlujo(ruta, std::ios::out | std::ios::app);
+void exigeQueNoSeaCarpeta(const fs::path& ruta) {
+    if (esCarpeta(ruta)) rechaza(ruta, "es una carpeta");
+}
+
+/// The same, for a file that must be there; gives the reason when it can't be opened.
+std::fstream exigeFlujo(const fs::path& ruta, std::ios::openmode modo) {
+    std::fstream flujo = abreFlujo(ruta, modo);
+    if (!flujo.is_open()) rechaza(ruta, motivo(errorDelSistema(), "no se puede abrir"));
+    return flujo;
+}
+
+/// Makes an empty file where there is none; gives the error when it can't.
+std::error_code creaSiFalta(const fs::path& ruta) {
+    if (existeAlgo(ruta)) return {};
+    return abreFlujo(ruta, std::ios::out | std::ios::app).is_open() ? std::error_code{} : errorDelSistema();
 }
 
 /// A file that is absent from a directory where nothing can be created.
@@ -96,7 +112,7 @@ class FicheroEnDisco final : public FicheroAleatorio {
         flujo_.clear();
         flujo_.seekg(static_cast<std::streamoff>(posicion));
         flujo_.read(destino.data(), static_cast<std::streamsize>(destino.size()));
-        if (flujo_.bad()) throw FicheroInaccesible{ruta_.filename().string(), "no se puede leer"};
+        if (flujo_.bad()) rechaza(ruta_, "no se puede leer");
         return static_cast<std::size_t>(flujo_.gcount());
     }
 
@@ -120,10 +136,19 @@ class FicheroEnDisco final : public FicheroAleatorio {
     std::fstream flujo_;
 };
 
+/// The file that stands under a name, behind the links, once it's known that it may be written.
+fs::path reemplazable(const fs::path& ruta) {
+    if (!ExisteArchivo(ruta)) rechaza(ruta, "no es un fichero corriente");
+    (void)exigeFlujo(ruta, std::ios::in | std::ios::out);
+    std::error_code error;
+    fs::path real = fs::canonical(ruta, error);
+    return error ? ruta : real;
+}
+
 /// A file being written beside the one that it will replace. Removed unless it takes that place.
 class Relevo {
   public:
-    explicit Relevo(const fs::path& destino) : destino_{destino}, ruta_{destino} { ruta_ += ".nuevo"; }
+    explicit Relevo(fs::path destino) : destino_{std::move(destino)}, ruta_{destino_} { ruta_ += ".nuevo"; }
     Relevo(const Relevo&) = delete;
     Relevo& operator=(const Relevo&) = delete;
     ~Relevo() {
@@ -153,7 +178,7 @@ class Relevo {
 
   private:
     [[noreturn]] void falla(const std::error_code& error) const {
-        throw FicheroInaccesible{destino_.filename().string(), motivo(error, "no se puede escribir")};
+        rechaza(destino_, motivo(error, "no se puede escribir"));
     }
 
     fs::path destino_;
@@ -196,27 +221,18 @@ bool DirectorioAplicacion::existe(std::string_view nombre) const {
 
 std::unique_ptr<FicheroAleatorio> DirectorioAplicacion::abre(std::string_view nombre, Acceso acceso) {
     const fs::path fichero = ruta(nombre);
-    if (esCarpeta(fichero)) throw FicheroInaccesible{std::string{nombre}, "es una carpeta"};
-    creaSiFalta(fichero);
-    const auto errorAlCrear = errorDelSistema();
-    const bool falta = !existeAlgo(fichero);
+    exigeQueNoSeaCarpeta(fichero);
+    const std::error_code falta = creaSiFalta(fichero);
     if (falta && acceso == Acceso::Lectura) return std::make_unique<FicheroVacio>();
-    if (falta) throw FicheroInaccesible{std::string{nombre}, motivo(errorAlCrear, "no se puede crear")};
+    if (falta) rechaza(fichero, motivo(falta, "no se puede crear"));
     const auto modo = acceso == Acceso::Lectura ? std::ios::in : std::ios::in | std::ios::out;
-    std::fstream flujo = abreFlujo(fichero, modo);
-    if (!flujo.is_open()) {
-        throw FicheroInaccesible{std::string{nombre}, motivo(errorDelSistema(), "no se puede abrir")};
-    }
-    return std::make_unique<FicheroEnDisco>(fichero, std::move(flujo));
+    return std::make_unique<FicheroEnDisco>(fichero, exigeFlujo(fichero, modo));
 }
 
 std::string DirectorioAplicacion::leeTodo(std::string_view nombre) const {
     const fs::path fichero = ruta(nombre);
-    if (esCarpeta(fichero)) throw FicheroInaccesible{std::string{nombre}, "es una carpeta"};
-    std::fstream flujo = abreFlujo(fichero, std::ios::in);
-    if (!flujo.is_open()) {
-        throw FicheroInaccesible{std::string{nombre}, motivo(errorDelSistema(), "no se puede abrir")};
-    }
+    exigeQueNoSeaCarpeta(fichero);
+    std::fstream flujo = exigeFlujo(fichero, std::ios::in);
     constexpr std::size_t kTrozo = 65536;
     std::string contenido;
     do {
@@ -225,22 +241,14 @@ std::string DirectorioAplicacion::leeTodo(std::string_view nombre) const {
         flujo.read(contenido.data() + leidos, static_cast<std::streamsize>(kTrozo));
         contenido.resize(leidos + static_cast<std::size_t>(flujo.gcount()));
     } while (flujo);
-    if (flujo.bad()) throw FicheroInaccesible{std::string{nombre}, "no se puede leer"};
+    if (flujo.bad()) rechaza(fichero, "no se puede leer");
     return contenido;
 }
 
 void DirectorioAplicacion::sustituye(std::string_view nombre, std::string_view contenido) {
     const fs::path fichero = ruta(nombre);
-    const bool hay = existeAlgo(fichero);
-    if (esCarpeta(fichero)) throw FicheroInaccesible{std::string{nombre}, "es una carpeta"};
-    if (hay && !ExisteArchivo(fichero))
-        throw FicheroInaccesible{std::string{nombre}, "no es un fichero corriente"};
-    if (hay && !abreFlujo(fichero, std::ios::in | std::ios::out).is_open()) {
-        throw FicheroInaccesible{std::string{nombre}, motivo(errorDelSistema(), "no se puede escribir")};
-    }
-    std::error_code error;
-    const fs::path real = hay ? fs::canonical(fichero, error) : fichero;  // a link stays a link
-    Relevo relevo{error ? fichero : real};
+    exigeQueNoSeaCarpeta(fichero);
+    Relevo relevo{existeAlgo(fichero) ? reemplazable(fichero) : fichero};
     relevo.escribe(contenido);
     relevo.ocupaSuSitio();
 }
