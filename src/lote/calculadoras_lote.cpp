@@ -4,6 +4,9 @@
 #include <array>
 
 #include "benefits/desemp_frm.h"
+#include "benefits/ilt_frm.h"
+#include "benefits/mater_frm.h"
+#include "benefits/riesgo_embarazo_frm.h"
 
 namespace orvemo::lote {
 
@@ -20,6 +23,9 @@ struct Entrada {
 };
 constexpr std::array kEntradas{
     Entrada{"desempleo", abre<DesempFrm>},
+    Entrada{"it", abre<ILTFrm>},
+    Entrada{"maternidad", abre<MaterFrm>},
+    Entrada{"riesgo", abre<RiesgoEmbarazo>},
 };
 
 }  // namespace
