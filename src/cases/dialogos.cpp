@@ -85,7 +85,7 @@ void GrabaSupuesto::Inicia(const std::string& nombre) {
     CargaLista();
 }
 
-void GrabaSupuesto::ponNombre(std::string nombre) {
+void GrabaSupuesto::ponNombre(const std::string& nombre) {
     nombre_ = PrimerosCaracteres(nombre, kMaximoNombre);
     avisa();
 }

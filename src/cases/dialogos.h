@@ -72,7 +72,7 @@ class GrabaSupuesto final : public DialogoSupuestos {
     void Inicia(const std::string& nombre);
 
     [[nodiscard]] const std::string& Nombre() const { return nombre_; }
-    void ponNombre(std::string nombre);
+    void ponNombre(const std::string& nombre);
     /// Whether `BotonGrabar` is enabled: the name isn't blank.
     [[nodiscard]] bool puedeGrabar() const;
 
