@@ -66,8 +66,10 @@ constexpr Pesos tablaDePesos() {
 constexpr Pesos kPesos = tablaDePesos();
 
 std::string clave(std::string_view nombre) {
+    const std::string letras = A1252(nombre);
     std::string alfabeto;
-    for (const char c : A1252(nombre)) {
+    alfabeto.reserve(letras.size() + 1);
+    for (const char c : letras) {
         const Peso peso = kPesos[lugar(c)];
         alfabeto += peso.primero;
         if (peso.segundo != '\0') alfabeto += peso.segundo;
@@ -75,26 +77,29 @@ std::string clave(std::string_view nombre) {
     return alfabeto;
 }
 
-struct Clasificada {
+/// A name's place in the list; the key is made once and not at every comparison.
+struct Ficha {
     std::string clave;
-    EntradaSupuesto entrada;
+    EntradaSupuesto* entrada;
 
-    friend bool operator<(const Clasificada& a, const Clasificada& b) {
-        return std::tie(a.clave, a.entrada.nombre, a.entrada.registro) <
-               std::tie(b.clave, b.entrada.nombre, b.entrada.registro);
+    friend bool operator<(const Ficha& a, const Ficha& b) {
+        const auto orden = std::tie(a.clave, a.entrada->nombre, a.entrada->registro) <=>
+                           std::tie(b.clave, b.entrada->nombre, b.entrada->registro);
+        return orden < 0;
     }
 };
 
 }  // namespace
 
 std::vector<EntradaSupuesto> OrdenaAlfabeticamente(std::vector<EntradaSupuesto> lista) {
-    std::vector<Clasificada> clasificadas;
-    clasificadas.reserve(lista.size());
-    for (EntradaSupuesto& entrada : lista)
-        clasificadas.push_back({clave(entrada.nombre), std::move(entrada)});
-    std::sort(clasificadas.begin(), clasificadas.end());
-    std::ranges::transform(clasificadas, lista.begin(), [](Clasificada& c) { return std::move(c.entrada); });
-    return lista;
+    std::vector<Ficha> fichas;
+    fichas.reserve(lista.size());
+    for (EntradaSupuesto& entrada : lista) fichas.push_back({clave(entrada.nombre), &entrada});
+    std::sort(fichas.begin(), fichas.end());
+    std::vector<EntradaSupuesto> ordenada;
+    ordenada.reserve(lista.size());
+    for (const Ficha& ficha : fichas) ordenada.push_back(std::move(*ficha.entrada));
+    return ordenada;
 }
 
 }  // namespace orvemo

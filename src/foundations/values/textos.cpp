@@ -53,6 +53,14 @@ char byte1252(char32_t caracter) {
     return static_cast<char>(kPrimeroPropio + static_cast<unsigned>(propio - kPropios1252.begin()));
 }
 
+/// The characters from `pos` on that are the same in both sets and in one byte: most of any text.
+std::string_view tramoLlano(std::string_view texto, std::size_t pos) {
+    const auto resto = texto.substr(pos);
+    const auto fin = std::find_if(resto.begin(), resto.end(),
+                                  [](char c) { return static_cast<unsigned char>(c) >= kPrimeroPropio; });
+    return resto.substr(0, static_cast<std::size_t>(fin - resto.begin()));
+}
+
 }  // namespace
 
 std::string_view Recorta(std::string_view texto) {
@@ -133,15 +141,24 @@ void AgregaCaracter(std::string& texto, char32_t caracter) {
 std::string A1252(std::string_view utf8) {
     std::string bytes;
     bytes.reserve(utf8.size());
-    for (std::size_t pos = 0; pos < utf8.size();) bytes += byte1252(SiguienteCaracter(utf8, pos));
+    for (std::size_t pos = 0; pos < utf8.size();) {
+        const std::string_view llano = tramoLlano(utf8, pos);
+        bytes += llano;
+        pos += llano.size();
+        if (pos < utf8.size()) bytes += byte1252(SiguienteCaracter(utf8, pos));
+    }
     return bytes;
 }
 
 std::string De1252(std::string_view bytes) {
     std::string utf8;
     utf8.reserve(bytes.size());
-    for (std::size_t pos = 0; pos < bytes.size(); ++pos) {
-        const unsigned byte = byteEn(bytes, pos);
+    for (std::size_t pos = 0; pos < bytes.size();) {
+        const std::string_view llano = tramoLlano(bytes, pos);
+        utf8 += llano;
+        pos += llano.size();
+        if (pos == bytes.size()) break;
+        const unsigned byte = byteEn(bytes, pos++);
         AgregaCaracter(utf8, esPropio(byte) ? kPropios1252[byte - kPrimeroPropio] : byte);
     }
     return utf8;

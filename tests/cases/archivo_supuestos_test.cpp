@@ -1,0 +1,177 @@
+#include "cases/archivo_supuestos.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "apoyo_casos.h"
+
+namespace orvemo {
+namespace {
+
+using pruebas::borrado;
+using pruebas::FicheroDePrueba;
+using pruebas::kLongitud;
+using pruebas::lineas;
+using pruebas::registro;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ArchivoSupuestosTest : public testing::Test, protected FicheroDePrueba {
+  protected:
+    void agrega(std::initializer_list<const char*> nombres) {
+        for (const char* nombre : nombres) archivo.agrega(registro(nombre));
+    }
+};
+
+TEST(CuentaDeRegistros, IsTheLengthOverTheRecordsAnExactHalfToEven) {
+    struct Caso {
+        const char* titulo;
+        std::size_t longitudRegistro;
+        std::size_t bytes;
+        int registros;
+    };
+    const Caso kCasos[] = {
+        {"empty", 297, 0, 0},
+        {"less than half a record", 297, 148, 0},
+        {"more than half a record", 297, 149, 1},
+        {"two and 100 bytes", 297, 297 * 2 + 100, 2},
+        {"two and 200 bytes", 297, 297 * 2 + 200, 3},
+        {"half a record", 260, 130, 0},
+        {"one and a half", 260, 390, 2},
+        {"two and a half", 260, 650, 2},
+        {"as many as there can be", 297, 297 * 32767, 32767},
+        {"and less than a half more", 297, 297 * 32767 + 148, 32767},
+    };
+    for (const Caso& caso : kCasos) {
+        pruebas::AlmacenMemoria almacen;
+        almacen["casos.nom"].assign(caso.bytes, ' ');
+        EXPECT_EQ((ArchivoSupuestos{almacen, "casos.nom", caso.longitudRegistro}.cuenta()), caso.registros)
+            << caso.titulo;
+    }
+}
+
+TEST_F(ArchivoSupuestosTest, ListingAMissingFileCreatesItAndTheFirstSaveIsRecord1) {
+    EXPECT_THAT(archivo.lista(), IsEmpty());
+    EXPECT_TRUE(almacen.existe("desemp.nom"));
+    EXPECT_EQ(archivo.agrega(registro("Ana", 'x', '*')), 1);
+    EXPECT_EQ(bytes(), registro("Ana")) << "whole, and in use whatever its buffer said";
+}
+
+TEST_F(ArchivoSupuestosTest, ANewCaseTakesTheLowestFreeSlotAndThenTheEnd) {
+    agrega({"uno", "dos", "tres", "cuatro", "cinco", "seis"});
+    archivo.borra(5);
+    archivo.borra(2);
+    EXPECT_THAT(lineas(archivo.lista()), ElementsAre("1 uno", "3 tres", "4 cuatro", "6 seis"));
+    EXPECT_EQ(archivo.agrega(registro("A")), 2);
+    EXPECT_EQ(archivo.agrega(registro("B")), 5);
+    EXPECT_EQ(archivo.agrega(registro("C")), 7);
+    EXPECT_THAT(lineas(archivo.lista()),
+                ElementsAre("1 uno", "2 A", "3 tres", "4 cuatro", "5 B", "6 seis", "7 C"));
+}
+
+TEST_F(ArchivoSupuestosTest, ErasingFreesTheHeadAloneAndNeverShrinksTheFile) {
+    agrega({"uno", "dos"});
+    archivo.borra(2);
+    EXPECT_EQ(bytes(), registro("uno") + borrado(registro("dos")));
+    EXPECT_EQ(archivo.cuenta(), 2);
+}
+
+TEST_F(ArchivoSupuestosTest, AnythingButAnAsteriskIsACaseInUse) {
+    for (const char estado : {' ', '\0', 'A', '?', '\xFF'}) bytes() += registro("en uso", 'x', estado);
+    bytes() += registro("libre", 'x', '*') + std::string(kLongitud, '\0');
+    EXPECT_THAT(lineas(archivo.lista()),
+                ElementsAre("1 en uso", "2 en uso", "3 en uso", "4 en uso", "5 en uso", "7 "));
+}
+
+TEST_F(ArchivoSupuestosTest, OverwritingKeepsTheOtherRecords) {
+    agrega({"uno", "dos", "tres"});
+    archivo.sobrescribe(2, registro("otro", 'y', '*'));
+    EXPECT_EQ(bytes(), registro("uno") + registro("otro", 'y') + registro("tres"));
+}
+
+TEST_F(ArchivoSupuestosTest, OverwritingByNameTakesTheFirstInUseWithThatVeryName) {
+    bytes() = registro("Ana", 'x', '*') + registro("Ana", 'x', '\0') + registro("ana") + registro(" Ana") +
+              registro("Ana") + registro("Ana");
+    EXPECT_EQ(archivo.sobrescribePorNombre(registro("Ana", 'y')), 5);
+    EXPECT_EQ(bytes().substr(4 * kLongitud), registro("Ana", 'y') + registro("Ana"));
+    const std::string antes = bytes();
+    EXPECT_EQ(archivo.sobrescribePorNombre(registro("Eva")), std::nullopt);
+    EXPECT_EQ(bytes(), antes);
+}
+
+TEST_F(ArchivoSupuestosTest, APartialLastRecordThatCountsIsACaseLikeTheOthers) {
+    const std::string entero = registro("uno") + registro("dos");
+    const std::string parcial = registro("tres").substr(0, 200);
+    bytes() = entero + parcial;
+    EXPECT_THAT(lineas(archivo.lista()), ElementsAre("1 uno", "2 dos", "3 tres"));
+    EXPECT_EQ(archivo.lee(3), parcial + std::string(97, '\0'));
+    EXPECT_EQ(archivo.agrega(registro("cuatro")), 4);
+    EXPECT_EQ(bytes(), entero + parcial + std::string(97, '\0') + registro("cuatro"));
+
+    bytes() = entero + parcial;
+    archivo.sobrescribe(3, registro("otro"));
+    EXPECT_EQ(bytes(), entero + registro("otro"));
+
+    bytes() = entero + parcial.substr(0, 150);
+    archivo.borra(3);
+    EXPECT_EQ(bytes(), entero + borrado(registro("tres")).substr(0, 161));
+    EXPECT_EQ(archivo.agrega(registro("nuevo")), 3);
+}
+
+TEST_F(ArchivoSupuestosTest, APartialLastRecordThatDoesNotCountIsWrittenOver) {
+    bytes() = registro("uno") + registro("dos") + registro("resto").substr(0, 100);
+    EXPECT_THAT(lineas(archivo.lista()), ElementsAre("1 uno", "2 dos"));
+    EXPECT_EQ(archivo.agrega(registro("tres")), 3);
+    EXPECT_EQ(bytes(), registro("uno") + registro("dos") + registro("tres"));
+}
+
+TEST_F(ArchivoSupuestosTest, AFullFileTakesACaseOnlyInAFreeSlot) {
+    for (int r = 1; r <= kMaxRegistros; ++r) bytes() += registro("lleno");
+    const std::size_t longitud = bytes().size();
+    try {
+        archivo.agrega(registro("uno más"));
+        ADD_FAILURE() << "there is no record 32768";
+    } catch (const DemasiadosSupuestos& fallo) {
+        EXPECT_STREQ(fallo.what(),
+                     "el fichero \"desemp.nom\" no puede tener 32768 supuestos: el máximo es 32767");
+    }
+    EXPECT_EQ(bytes().size(), longitud);
+    archivo.borra(kMaxRegistros);
+    EXPECT_EQ(archivo.agrega(registro("uno más")), kMaxRegistros);
+    EXPECT_EQ(archivo.lista().back().nombre, "uno más");
+}
+
+TEST_F(ArchivoSupuestosTest, AFileOf33000RecordsIsAnErrorAndNeverWrapsRound) {
+    bytes().assign(33000 * kLongitud, ' ');
+    const std::string antes = bytes();
+    const auto mensaje = [](auto&& operacion) -> std::string {
+        try {
+            operacion();
+            return "nothing failed";
+        } catch (const DesbordeNumerico& fallo) {
+            return fallo.what();
+        }
+    };
+    const std::string esperado =
+        "el fichero \"desemp.nom\" no puede tener 33000 supuestos: el máximo es 32767";
+    EXPECT_EQ(mensaje([&] { (void)archivo.cuenta(); }), esperado);
+    EXPECT_EQ(mensaje([&] { (void)archivo.lista(); }), esperado);
+    EXPECT_EQ(mensaje([&] { archivo.agrega(registro("Ana")); }), esperado);
+    EXPECT_EQ(mensaje([&] { archivo.sobrescribePorNombre(registro("Ana")); }), esperado);
+    EXPECT_EQ(bytes(), antes);
+}
+
+TEST_F(ArchivoSupuestosTest, FreeSlotsAreFoundWhereverTheyLieInALongFile) {
+    constexpr int kRegistros = 700;  // several times what is read at once
+    for (int r = 1; r <= kRegistros; ++r) bytes() += registro("caso " + std::to_string(r));
+    for (int r = 1; r <= kRegistros; ++r) {
+        archivo.borra(r);
+        ASSERT_EQ(archivo.lista().size(), static_cast<std::size_t>(kRegistros - 1));
+        ASSERT_EQ(archivo.agrega(registro("caso " + std::to_string(r))), r);
+    }
+    EXPECT_EQ(archivo.agrega(registro("otro")), kRegistros + 1);
+    EXPECT_EQ(lineas(archivo.lista())[456], "457 caso 457");
+}
+
+}  // namespace
+}  // namespace orvemo

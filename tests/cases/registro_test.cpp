@@ -1,0 +1,161 @@
+#include "cases/registro.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <limits>
+
+namespace orvemo {
+namespace {
+
+struct Muestra {
+    Texto<1> Estado;
+    Texto<10> Nombre;
+    std::int32_t Edad = 0;
+    std::int16_t Hijos = 0;
+    float Tipo = 0;
+    double Suma = 0;
+    Fecha Alta = kFechaCero;
+    std::array<double, 2> Bases{};
+    std::array<Texto<2>, 2> Claves;
+    Texto<3> reservado;
+};
+constexpr Diseno kMuestra{60,
+                          Tramo{0, &Muestra::Estado},
+                          Tramo{1, &Muestra::Nombre},
+                          Tramo{11, &Muestra::Edad},
+                          Tramo{15, &Muestra::Hijos},
+                          Tramo{17, &Muestra::Tipo},
+                          Tramo{21, &Muestra::Suma},
+                          Tramo{29, &Muestra::Alta},
+                          Tramo{37, &Muestra::Bases},
+                          Tramo{53, &Muestra::Claves},
+                          Tramo{57, &Muestra::reservado}};
+
+std::string imagen(std::initializer_list<int> bytes) {
+    std::string texto;
+    for (const int byte : bytes) texto += static_cast<char>(byte);
+    return texto;
+}
+
+// Put together by hand: 06-06-2005 is day 38509, which as a double is 40E2CDA000000000.
+const std::string kImagen = imagen({
+    0x20,                                                        // " "
+    0x50, 0x65, 0xF1, 0x61, 0x20, 0x80, 0x35, 0x20, 0x20, 0x20,  // "Peña €5", blanks
+    0x26, 0x00, 0x00, 0x00,                                      // 38
+    0xFE, 0xFF,                                                  // -2
+    0x00, 0x00, 0x80, 0x3E,                                      // 0.25 in single precision
+    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xF8, 0x3F,              // 1.5
+    0x00, 0x00, 0x00, 0x00, 0xA0, 0xCD, 0xE2, 0x40,              // 06-06-2005
+    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x40,              // 2
+    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xC0,              // -2
+    0x41, 0x20, 0x42, 0x43,                                      // "A", "BC"
+    0x00, 0x00, 0x00,                                            // never written
+});
+
+TEST(Registro, LiesByteByByteAsTheLayoutTells) {
+    Muestra muestra;
+    muestra.Estado.asigna(" ");
+    muestra.Nombre.asigna("Peña €5");
+    muestra.Edad = 38;
+    muestra.Hijos = -2;
+    muestra.Tipo = 0.25F;
+    muestra.Suma = 1.5;
+    muestra.Alta = FechaDMA(6, 6, 2005);
+    muestra.Bases = {2, -2};
+    muestra.Claves = {Texto<2>{"A"}, Texto<2>{"BC"}};
+    EXPECT_EQ(kMuestra.escribe(muestra), kImagen);
+}
+
+TEST(Registro, IsReadBackFieldByField) {
+    Muestra muestra;
+    kMuestra.lee(kImagen, muestra);
+    EXPECT_EQ(muestra.Nombre.utf8(), "Peña €5");
+    EXPECT_EQ(muestra.Edad, 38);
+    EXPECT_EQ(muestra.Hijos, -2);
+    EXPECT_EQ(muestra.Tipo, 0.25F);
+    EXPECT_EQ(muestra.Suma, 1.5);
+    EXPECT_EQ(muestra.Alta, FechaDMA(6, 6, 2005));
+    EXPECT_EQ(muestra.Bases, (std::array<double, 2>{2, -2}));
+    EXPECT_EQ(muestra.Claves[1].utf8(), "BC");
+    EXPECT_EQ(muestra.reservado.utf8(), "");
+    EXPECT_EQ(kMuestra.escribe(muestra), kImagen) << "reserved bytes go back as they came";
+}
+
+TEST(Registro, TextsAreWrittenInTheirWidth) {
+    struct Caso {
+        const char* titulo;
+        std::string utf8;
+        std::string bytes;
+    };
+    const Caso kCasos[] = {
+        {"nothing: blanks", "", "          "},
+        {"shorter: blanks on the right", "Luis", "Luis      "},
+        {"just as wide", "0123456789", "0123456789"},
+        {"longer: its end is lost", "0123456789A", "0123456789"},
+        {"characters are counted, not bytes", "ññññññññññ", std::string(10, '\xF1')},
+        {"what the file lacks", "Łódź ψ",
+         "?\xF3"
+         "d? ?    "},
+        {"outside Latin 1", "€ŠœŸ", "\x80\x8A\x9C\x9F      "},
+        {"blanks on the left stay", "  a", "  a       "},
+    };
+    for (const Caso& caso : kCasos) {
+        const Texto<10> texto{caso.utf8};
+        EXPECT_EQ((std::string{texto.bytes().data(), 10}), caso.bytes) << caso.titulo;
+    }
+}
+
+TEST(Registro, TextsAreReadTrimmedAndUpToTheirFirstNul) {
+    struct Caso {
+        const char* titulo;
+        std::string bytes;
+        std::string utf8;
+    };
+    const Caso kCasos[] = {
+        {"never written", std::string(10, '\0'), ""},
+        {"blank", std::string(10, ' '), ""},
+        {"blanks at both ends", "  a b     ", "a b"},
+        {"NUL in the middle", std::string{"ab\0cdefghi", 10}, "ab"},
+        {"blanks before a NUL", std::string{"ab  \0     ", 10}, "ab"},
+        {"every byte is a character", "\x81\x8D\x8F\x90\x9D\xFF\xA0\x7F\x01\x80",
+         "\u0081\u008D\u008F\u0090\u009Dÿ\u00A0\u007F\u0001€"},
+    };
+    for (const Caso& caso : kCasos) {
+        Texto<10> texto;
+        EnRegistro<Texto<10>>::lee(caso.bytes.data(), texto);
+        EXPECT_EQ(texto.utf8(), caso.utf8) << caso.titulo;
+    }
+}
+
+TEST(Registro, DatesThatAreNoneReadAs01011900) {
+    using Limites = std::numeric_limits<double>;
+    struct Caso {
+        const char* titulo;
+        double dias;
+        Fecha fecha;
+    };
+    const Caso kCasos[] = {
+        {"day 0", 0, FechaDMA(30, 12, 1899)},
+        {"before day 0", -1, FechaDMA(29, 12, 1899)},
+        {"with an hour", 38509.75, FechaDMA(6, 6, 2005)},
+        {"first of the calendar", -657434, FechaDMA(1, 1, 100)},
+        {"before it", -657435, FechaDMA(1, 1, 1900)},
+        {"last of the calendar", 2958465, FechaDMA(31, 12, 9999)},
+        {"after it", 2958466, FechaDMA(1, 1, 1900)},
+        {"no number", Limites::quiet_NaN(), FechaDMA(1, 1, 1900)},
+        {"infinite", Limites::infinity(), FechaDMA(1, 1, 1900)},
+        {"infinite backwards", -Limites::infinity(), FechaDMA(1, 1, 1900)},
+        {"enormous", Limites::max(), FechaDMA(1, 1, 1900)},
+    };
+    for (const Caso& caso : kCasos) {
+        std::string bytes = kImagen;
+        EnRegistro<double>::escribe(&bytes[29], caso.dias);
+        Muestra muestra;
+        kMuestra.lee(bytes, muestra);
+        EXPECT_EQ(muestra.Alta, caso.fecha) << caso.titulo;
+    }
+}
+
+}  // namespace
+}  // namespace orvemo
