@@ -13,10 +13,11 @@ namespace {
 
 constexpr std::string_view kMarcaEjemplosLibres = "vesta";
 
-/// A name as it will be listed once saved. What the file can't hold changes on the way ("Łódź" comes back as
-/// "?ód?"): saved twice, it has to meet itself and not become two cases.
+/// A name as it will be listed once saved: trimmed, and without what the file can't hold ("Łódź" comes back
+/// as
+/// "?ód?"). Saved twice, such a name has to meet itself and not become two cases.
 std::string comoSeListara(std::string_view nombre) {
-    return Texto<kAnchoNombre>{Recorta(nombre)}.utf8();
+    return Texto<kAnchoNombre>{nombre}.utf8();
 }
 
 }  // namespace

@@ -90,6 +90,14 @@ TEST_F(DialogosTest, SavingComparesTheNamesAsTheyStandInTheFile) {
     }
 }
 
+TEST_F(DialogosTest, TheNameHolds80CharactersHoweverItGetsThere) {
+    const std::string ochenta = "Peña" + std::string(76, 'x');
+    graba.Inicia("  " + ochenta + "de más");
+    EXPECT_EQ(graba.Nombre(), ochenta);
+    graba.ponNombre(ochenta + std::string(10000, 'y'));
+    EXPECT_EQ(graba.Nombre(), ochenta);
+}
+
 TEST_F(DialogosTest, ABlankNameIsRefused) {
     for (const std::string& nombre : {std::string{}, std::string(5, ' '), std::string(3, '\0')}) {
         graba.Inicia("Ana");
