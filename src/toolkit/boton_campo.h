@@ -1,0 +1,11 @@
+#pragma once
+
+#include "toolkit/control.h"
+
+namespace orvemo {
+
+/// The button of a field, shaped by where it stands: an icon on the bar, "Siguiente" and "Anterior" with
+/// their arrows on the foot, its caption on a panel.
+[[nodiscard]] Control* nuevoBoton(Campo& campo, Anfitrion& anfitrion);
+
+}  // namespace orvemo

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "toolkit/control.h"
+#include "toolkit/lista_textos.h"
+
+namespace orvemo {
+
+/// A drop-down list. The wheel turns it only while it has the focus.
+class ListaCampo final : public QComboBox, public Control {
+  public:
+    ListaCampo(Campo& campo, Anfitrion& anfitrion);
+
+    [[nodiscard]] QWidget& widget() override { return *this; }
+
+  protected:
+    void refrescaValor() override;
+    void wheelEvent(QWheelEvent* suceso) override;
+
+  private:
+    std::vector<std::string> opciones_;
+};
+
+/// A list box. A double click or Enter on an entry is told apart from choosing it.
+class ListaAbiertaCampo final : public ListaTextos, public Control {
+  public:
+    ListaAbiertaCampo(Campo& campo, Anfitrion& anfitrion);
+
+    [[nodiscard]] QWidget& widget() override { return *this; }
+
+  protected:
+    void refrescaValor() override { muestra(campo().opciones(), campo().indice()); }
+
+  private:
+    void elige(int indice);
+};
+
+}  // namespace orvemo

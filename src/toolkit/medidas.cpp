@@ -1,0 +1,43 @@
+#include "toolkit/medidas.h"
+
+#include <QtGlobal>
+#include <algorithm>
+
+namespace orvemo {
+
+namespace {
+
+constexpr double kTwipsPorPixel = 15;
+
+// Pixels that a window needs at factor 1: the panel, a margin around it and the title bar.
+constexpr double kAnchoNecesario = 660;
+constexpr double kAltoNecesario = 460;
+constexpr double kBarraDeTitulo = 40;
+
+constexpr double kEscalaMinima = 1;
+constexpr double kPuntosPorPulgada = 96;
+
+double factor = kEscalaMinima;
+
+}  // namespace
+
+double escala() {
+    return factor;
+}
+
+double escalaPara(QSize pantalla, double puntosPorPulgada) {
+    const double cabe =
+        std::min(pantalla.width() / kAnchoNecesario, (pantalla.height() - kBarraDeTitulo) / kAltoNecesario);
+    const double comoda = kEscalaComoda * std::max(1.0, puntosPorPulgada / kPuntosPorPulgada);
+    return std::clamp(cabe, kEscalaMinima, comoda);
+}
+
+void ponEscala(double escala) {
+    factor = escala;
+}
+
+int px(int twips) {
+    return qRound(twips / kTwipsPorPixel * factor);
+}
+
+}  // namespace orvemo

@@ -1,0 +1,281 @@
+#include "toolkit/panel_formulario.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <algorithm>
+
+#include "toolkit/controles.h"
+#include "toolkit/medidas.h"
+#include "toolkit/rotulo_campo.h"
+#include "toolkit/textos_qt.h"
+
+namespace orvemo {
+
+namespace {
+
+// Columns of a grid of labels and fields.
+constexpr int kColRotulo = 0;
+constexpr int kColCampo = 1;
+constexpr int kColumnasFila = 2;
+// Grid columns of one column of pairs: label, field and the gap to the next.
+constexpr int kColHueco = 2;
+constexpr int kColumnasPar = 3;
+
+// Twips.
+constexpr int kHuecoColumnas = 240;
+constexpr int kHuecoBloques = 150;
+
+/// Kinds whose label stands beside them; the others bear their own text.
+bool llevaRotulo(Clase clase) {
+    switch (clase) {
+        case Clase::Texto:
+        case Clase::FechaSelector:
+        case Clase::FechaEscrita:
+        case Clase::Lista:
+        case Clase::ListaAbierta:
+        case Clase::TextoLargo:
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// Kinds that take the whole width of the panel, a label of theirs above.
+bool esAncha(Clase clase) {
+    return clase == Clase::ListaAbierta || clase == Clase::TextoLargo || clase == Clase::Etiqueta ||
+           clase == Clase::Imagen;
+}
+
+/// Kinds that take what height is left.
+bool creceEnAlto(Clase clase) {
+    return clase == Clase::ListaAbierta || clase == Clase::TextoLargo;
+}
+
+bool esVeredicto(const Campo& campo) {
+    return campo.def().clase == Clase::Veredicto;
+}
+
+QGridLayout* nuevaRejilla(QWidget* marco) {
+    auto* rejilla = new QGridLayout{marco};
+    rejilla->setHorizontalSpacing(px(kHuecoColumnas / 2));
+    return rejilla;
+}
+
+QLabel* nuevoEncabezado(const std::string& texto) {
+    auto* encabezado = new QLabel{aQt(texto)};
+    encabezado->setTextFormat(Qt::PlainText);
+    QPalette paleta = encabezado->palette();
+    paleta.setColor(QPalette::WindowText, kColorTextoSecundario);
+    encabezado->setPalette(paleta);
+    return encabezado;
+}
+
+/// A field that hides leaves its place empty: the columns must not jump while the user types.
+void conservaSitio(QWidget& widget) {
+    QSizePolicy politica = widget.sizePolicy();
+    politica.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(politica);
+}
+
+}  // namespace
+
+PanelFormulario::PanelFormulario(int pantalla, Anfitrion& anfitrion) : anfitrion_{anfitrion} {
+    auto* pila = new QVBoxLayout{this};
+    pila->setContentsMargins(0, 0, 0, 0);
+    pila->setSpacing(px(kHuecoBloques));
+    for (const Bloque& bloque : bloques(pantalla)) {
+        if (bloque.grupo == nullptr) {
+            agregaSueltos(bloque.filas);
+        } else {
+            agregaGrupo(*bloque.grupo, bloque.filas);
+        }
+    }
+    pila->addStretch(0);
+}
+
+// --- Blocks
+
+/// A block is a group, at the place of its first field, or a run of fields without one.
+std::vector<PanelFormulario::Bloque> PanelFormulario::bloques(int pantalla) const {
+    std::vector<Bloque> todos;
+    for (Campo& campo : anfitrion_.formulario().campos()) {
+        if (campo.pantalla() != pantalla) continue;
+        const Grupo* grupo = campo.def().grupo;
+        const bool sigueLaSerie = grupo == nullptr && !todos.empty() && todos.back().grupo == nullptr;
+        auto bloque = grupo != nullptr ? std::ranges::find(todos, grupo, &Bloque::grupo)
+                                       : todos.end() - (sigueLaSerie ? 1 : 0);
+        if (bloque == todos.end()) bloque = todos.insert(bloque, {grupo, {}});
+        if (!campo.def().mismaLinea || bloque->filas.empty()) bloque->filas.emplace_back();
+        bloque->filas.back().push_back(&campo);
+    }
+    return todos;
+}
+
+void PanelFormulario::agregaSueltos(const Filas& filas) {
+    auto* marco = new QWidget{this};
+    auto* rejilla = nuevaRejilla(marco);
+    rejilla->setContentsMargins(0, 0, 0, 0);
+    layout()->addWidget(marco);
+    reparteEnFilas(*rejilla, filas);
+}
+
+void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
+    const DefGrupo& def = grupo.def();
+    const bool conTitulo = !grupo.titulo().empty();
+    QWidget* marco = conTitulo ? new QGroupBox{this} : new QWidget{this};
+    marco->setObjectName(aQt(def.nombre));
+    marcos_[&grupo] = marco;
+    layout()->addWidget(marco);
+    auto* rejilla = nuevaRejilla(marco);
+    if (!conTitulo) rejilla->setContentsMargins(0, 0, 0, 0);
+    switch (def.disposicion) {
+        case Disposicion::Filas:
+            reparteEnFilas(*rejilla, filas);
+            break;
+        case Disposicion::Tabla:
+            reparteEnTabla(*rejilla, filas, def);
+            break;
+        case Disposicion::Columnas:
+            reparteEnColumnas(*rejilla, filas, def.columnas);
+            break;
+    }
+    refresca(grupo);
+}
+
+void PanelFormulario::refresca(const Grupo& grupo) {
+    const auto marco = marcos_.find(&grupo);
+    if (marco == marcos_.end()) return;
+    marco->second->setVisible(grupo.visible());
+    if (auto* caja = qobject_cast<QGroupBox*>(marco->second)) caja->setTitle(sinMnemonico(grupo.titulo()));
+}
+
+// --- Ways of laying out
+
+void PanelFormulario::reparteEnFilas(QGridLayout& rejilla, const Filas& filas) {
+    ponVeredictos(rejilla, filas);
+    for (const Fila& campos : filas) {
+        const int fila = rejilla.rowCount();
+        if (esVeredicto(*campos.front())) continue;
+        if (esAncha(campos.front()->def().clase)) {
+            ponAncha(rejilla, fila, campos);
+        } else {
+            ponPar(rejilla, fila, 0, campos);
+        }
+    }
+    rejilla.setColumnStretch(kColCampo, 1);
+}
+
+void PanelFormulario::reparteEnTabla(QGridLayout& rejilla, const Filas& filas, const DefGrupo& def) {
+    const bool conEncabezados =
+        std::ranges::any_of(def.encabezados, [](const std::string& texto) { return !texto.empty(); });
+    for (std::size_t i = 0; conEncabezados && i < def.encabezados.size(); ++i) {
+        rejilla.addWidget(nuevoEncabezado(def.encabezados[i]), 0, static_cast<int>(i));
+    }
+    const auto rotulo = conEncabezados ? RotuloDelPrimero::Aparte : RotuloDelPrimero::EnLinea;
+    for (std::size_t i = 0; i < filas.size(); ++i) {
+        const std::size_t columna = i % static_cast<std::size_t>(def.columnas);
+        const int fila = static_cast<int>(i) / def.columnas + 1;
+        const std::size_t primero = controles_.size();
+        rejilla.addLayout(enLinea(filas[i], rotulo), fila, static_cast<int>(columna));
+        if (columna < def.encabezados.size()) {
+            controles_[primero]->ponNombreAccesible(
+                QStringLiteral("%1 %2").arg(aQt(def.encabezados[columna])).arg(fila));
+        }
+    }
+    rejilla.setColumnStretch(def.columnas, 1);
+}
+
+void PanelFormulario::reparteEnColumnas(QGridLayout& rejilla, const Filas& filas, int columnas) {
+    const int total = static_cast<int>(filas.size());
+    const int porColumna = (total + columnas - 1) / columnas;
+    for (int i = 0; i < total; ++i) {
+        ponPar(rejilla, i % porColumna, i / porColumna * kColumnasPar, filas[static_cast<std::size_t>(i)]);
+    }
+    for (int c = 0; c + 1 < columnas; ++c) {
+        rejilla.setColumnMinimumWidth(c * kColumnasPar + kColHueco, px(kHuecoColumnas));
+    }
+    rejilla.setColumnStretch(columnas * kColumnasPar, 1);
+}
+
+// --- Pieces
+
+void PanelFormulario::ponPar(QGridLayout& rejilla, int fila, int columna, const Fila& campos) {
+    const std::size_t primero = controles_.size();
+    QLayout* linea = enLinea(campos, RotuloDelPrimero::Aparte);
+    const Clase clase = campos.front()->def().clase;
+    if (clase == Clase::Casilla) {
+        rejilla.addLayout(linea, fila, columna + kColRotulo, 1, kColumnasFila);
+        return;
+    }
+    rejilla.addLayout(linea, fila, columna + kColCampo);
+    if (llevaRotulo(clase)) rejilla.addWidget(creaRotulo(*controles_[primero]), fila, columna + kColRotulo);
+}
+
+void PanelFormulario::ponAncha(QGridLayout& rejilla, int fila, const Fila& campos) {
+    auto* linea = new QHBoxLayout;
+    bool crece = false;
+    for (Campo* campo : campos) {
+        const bool esta = creceEnAlto(campo->def().clase);
+        linea->addLayout(bajoSuRotulo(*campo), esta ? 1 : 0);
+        crece = crece || esta;
+    }
+    rejilla.addLayout(linea, fila, kColRotulo, 1, kColumnasFila);
+    if (!crece) return;
+    rejilla.setRowStretch(fila, 1);
+    auto* pila = static_cast<QVBoxLayout*>(layout());
+    pila->setStretch(pila->count() - 1, 1);
+}
+
+QLayout* PanelFormulario::bajoSuRotulo(Campo& campo) {
+    Control& control = crea(campo);
+    auto* columna = new QVBoxLayout;
+    if (llevaRotulo(campo.def().clase) && !campo.rotulo().empty()) columna->addWidget(creaRotulo(control));
+    columna->addWidget(&control.widget());
+    return columna;
+}
+
+void PanelFormulario::ponVeredictos(QGridLayout& rejilla, const Filas& filas) {
+    auto* linea = new QHBoxLayout;
+    int alto = 0;
+    for (const Fila& campos : filas) {
+        if (!esVeredicto(*campos.front())) continue;
+        QWidget& marca = crea(*campos.front()).widget();
+        alto = std::max(alto, marca.sizeHint().height());
+        linea->addWidget(&marca);
+    }
+    linea->addStretch(1);
+    linea->addStrut(alto);  // the text below does not move when the mark appears
+    rejilla.addLayout(linea, 0, kColRotulo, 1, kColumnasFila);
+}
+
+QLayout* PanelFormulario::enLinea(const Fila& campos, RotuloDelPrimero rotulo) {
+    auto* linea = new QHBoxLayout;
+    for (Campo* campo : campos) {
+        Control& control = crea(*campo);
+        const bool rotulado = campo != campos.front() || rotulo == RotuloDelPrimero::EnLinea;
+        if (rotulado && llevaRotulo(campo->def().clase) && !campo->rotulo().empty()) {
+            linea->addWidget(creaRotulo(control));
+        }
+        linea->addWidget(&control.widget());
+    }
+    linea->addStretch(1);
+    return linea;
+}
+
+Control& PanelFormulario::crea(Campo& campo) {
+    Control& control = *nuevoControl(campo, anfitrion_, this);
+    if (!esVeredicto(campo)) conservaSitio(control.widget());
+    controles_.push_back(&control);
+    return control;
+}
+
+QLabel* PanelFormulario::creaRotulo(Control& control) {
+    auto* rotulo = new RotuloCampo{this};
+    conservaSitio(*rotulo);
+    rotulo->setBuddy(&control.widget());
+    control.ponRotulo(rotulo);
+    control.refresca();
+    return rotulo;
+}
+
+}  // namespace orvemo

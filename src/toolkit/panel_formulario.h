@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QGridLayout>
+#include <QWidget>
+#include <map>
+#include <vector>
+
+#include "toolkit/control.h"
+
+namespace orvemo {
+
+/// The widgets of one panel of a form, laid out by their order and their groups.
+class PanelFormulario final : public QWidget {
+  public:
+    PanelFormulario(int pantalla, Anfitrion& anfitrion);
+
+    /// In tab order.
+    [[nodiscard]] const std::vector<Control*>& controles() const { return controles_; }
+    /// Shows a group as it is in the model now; one that hides gives its room to the others.
+    void refresca(const Grupo& grupo);
+
+  private:
+    /// Fields that stand side by side.
+    using Fila = std::vector<Campo*>;
+    using Filas = std::vector<Fila>;
+
+    struct Bloque {
+        const Grupo* grupo;
+        Filas filas;
+    };
+
+    [[nodiscard]] std::vector<Bloque> bloques(int pantalla) const;
+    void agregaSueltos(const Filas& filas);
+    void agregaGrupo(const Grupo& grupo, const Filas& filas);
+
+    void reparteEnFilas(QGridLayout& rejilla, const Filas& filas);
+    void reparteEnTabla(QGridLayout& rejilla, const Filas& filas, const DefGrupo& def);
+    void reparteEnColumnas(QGridLayout& rejilla, const Filas& filas, int columnas);
+
+    /// Label and field, the label in a column of its own.
+    void ponPar(QGridLayout& rejilla, int fila, int columna, const Fila& campos);
+    /// Kinds that take the whole width: side by side when they share a row, each under its label.
+    void ponAncha(QGridLayout& rejilla, int fila, const Fila& campos);
+    [[nodiscard]] QLayout* bajoSuRotulo(Campo& campo);
+    void ponVeredictos(QGridLayout& rejilla, const Filas& filas);
+    enum class RotuloDelPrimero { Aparte, EnLinea };
+    [[nodiscard]] QLayout* enLinea(const Fila& campos, RotuloDelPrimero rotulo);
+
+    Control& crea(Campo& campo);
+    [[nodiscard]] QLabel* creaRotulo(Control& control);
+
+    Anfitrion& anfitrion_;
+    std::vector<Control*> controles_;
+    std::map<const Grupo*, QWidget*> marcos_;
+};
+
+}  // namespace orvemo
