@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "benefits/desempleo_registro.h"
+#include "benefits/nocontributiva_registro.h"
 #include "cases/archivo_supuestos.h"
 #include "foundations/values/almacen.h"
 #include "foundations/values/fallos.h"
@@ -46,12 +47,32 @@ void desempleo(Almacen& directorio) {
     archivo.agrega(kDiseno.escribe(caso));
 }
 
+void noContributiva(Almacen& directorio) {
+    using orvemo::nocontributiva::kDiseno;
+    using orvemo::nocontributiva::RegistroNoContributiva;
+    ArchivoSupuestos archivo{directorio, "nocont.nom", kDiseno.longitud()};
+
+    RegistroNoContributiva caso;
+    caso.NombreSupuesto.asigna("Ejemplo: matrimonio mayor con un hijo que trabaja");
+    caso.Nombre.asigna("Carmen Soto Lara");
+    caso.FechaNac = FechaDMA(2, 3, 1936);
+    caso.Estancia = 53;
+    caso.NumMiembros = 3;
+    caso.NumBenef = 2;
+    caso.Renta = 600;
+    caso.RenBene = 900;
+    caso.RGlobal = 18900;
+    caso.Convive = 1;
+    archivo.agrega(kDiseno.escribe(caso));
+}
+
 struct Ejemplos {
     std::string_view fichero;
     void (*escribe)(Almacen&);
 };
 constexpr std::array kEjemplos{
     Ejemplos{"desemp.nom", desempleo},
+    Ejemplos{"nocont.nom", noContributiva},
 };
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "benefits/desemp_frm.h"
 
+#include "benefits/datos_informe.h"
+#include "benefits/declaraciones.h"
 #include "benefits/desempleo.h"
 #include "foundations/frame/informe.h"
 #include "foundations/values/formatos.h"
@@ -14,29 +16,12 @@ DesempFrm::DesempFrm(Entorno& entorno)
                      .fichero = "desemp.nom",
                      .subtitulos = {"Datos del solicitante", "CONCLUSIONES SOBRE PRESTACION DE DESEMPLEO"}}},
       Nombre{nuevo({.nombre = "Nombre", .rotulo = "Nombre completo:", .largo = 50})},
-      Edad{nuevo({.nombre = "Edad",
-                  .rotulo = "Edad del solicitante:",
-                  .defecto = "0",
-                  .filtro = TeclaDigito,
-                  .alSalir = rango("1", "99")})},
-      Fecha{nuevo({.nombre = "Fecha", .rotulo = "Fecha de solicitud:", .clase = Clase::FechaSelector})},
-      fIni{nuevo(
-          {.nombre = "fIni", .rotulo = "Fecha de inicio de la situación:", .clase = Clase::FechaSelector})},
-      Suma{nuevo({.nombre = "Suma",
-                  .rotulo = "Suma de cotizaciones de los últimos 180 días:",
-                  .defecto = "0",
-                  .filtro = TeclaNumero,
-                  .alSalir = rango("0", "999999")})},
-      Dias{nuevo({.nombre = "Dias",
-                  .rotulo = "Días cotizados en los 6 años anteriores:",
-                  .defecto = "0",
-                  .filtro = TeclaDigito,
-                  .alSalir = rango("0", "9999")})},
-      Hijos{nuevo({.nombre = "Hijos",
-                   .rotulo = "Número de hijos menores de 26 años o minusválidos:",
-                   .defecto = "0",
-                   .filtro = TeclaDigito,
-                   .alSalir = rango("0", "20")})},
+      Edad{nuevo(entero("Edad", "Edad del solicitante:", rango("1", "99")))},
+      Fecha{nuevo(fechaElegida("Fecha", "Fecha de solicitud:"))},
+      fIni{nuevo(fechaElegida("fIni", "Fecha de inicio de la situación:"))},
+      Suma{nuevo(decimal("Suma", "Suma de cotizaciones de los últimos 180 días:", rango("0", "999999")))},
+      Dias{nuevo(entero("Dias", "Días cotizados en los 6 años anteriores:", rango("0", "9999")))},
+      Hijos{nuevo(entero("Hijos", "Número de hijos menores de 26 años o minusválidos:", rango("0", "20")))},
       Parcial{nuevo({.nombre = "Parcial",
                      .rotulo = "Marque si es contrato a tiempo parcial ",
                      .clase = Clase::Casilla,
@@ -78,12 +63,11 @@ void DesempFrm::calcula(Dictamen& dictamen) {
 
 void DesempFrm::ImprimeInforme(RutinasImpresion& rutinas) {
     Informe informe{rutinas, "DESEMPLEO"};
-    informe.linea("Nombre:$N" + Nombre.texto() + "$n");
+    lineaNombre(informe, Nombre);
     informe.linea("Edad: " + Edad.texto());
-    informe.linea("Fecha de solicitud: " + FormatoFecha(FechaDe(Fecha.texto()), "dd-mmm-yyyy"));
-    informe.linea("Fecha de inicio de la situación: " + FormatoFecha(FechaDe(fIni.texto()), "dd-mmm-yyyy"));
-    informe.linea("Suma de cotizaciones de los últimos 180 días: " +
-                  FormatoNumero(DobleDe(Suma.texto()), "##,###,##0.00") + "€");
+    informe.linea("Fecha de solicitud: " + fechaDe(Fecha, "dd-mmm-yyyy"));
+    informe.linea("Fecha de inicio de la situación: " + fechaDe(fIni, "dd-mmm-yyyy"));
+    informe.linea("Suma de cotizaciones de los últimos 180 días: " + numeroDe(Suma, "##,###,##0.00") + "€");
     informe.linea("Número de hijos menores de 26 años o minusválidos: " + Hijos.texto());
     informe.separa();
     informe.tituloConclusiones();

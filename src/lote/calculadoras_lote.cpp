@@ -4,9 +4,12 @@
 #include <array>
 
 #include "benefits/desemp_frm.h"
+#include "benefits/familiar_frm.h"
 #include "benefits/ilt_frm.h"
 #include "benefits/mater_frm.h"
+#include "benefits/nocon_frm.h"
 #include "benefits/riesgo_embarazo_frm.h"
+#include "pensions/pension_frm.h"
 
 namespace orvemo::lote {
 
@@ -22,10 +25,13 @@ struct Entrada {
     std::unique_ptr<Calculadora> (*abre)(Entorno&);
 };
 constexpr std::array kEntradas{
+    Entrada{"jubilacion", abre<PensionFrm>},
     Entrada{"desempleo", abre<DesempFrm>},
     Entrada{"it", abre<ILTFrm>},
     Entrada{"maternidad", abre<MaterFrm>},
     Entrada{"riesgo", abre<RiesgoEmbarazo>},
+    Entrada{"nocontributiva", abre<NoConFrm>},
+    Entrada{"familiar", abre<FamiliarFrm>},
 };
 
 }  // namespace

@@ -5,8 +5,10 @@
 #include <string_view>
 
 #include "benefits/desemp_frm.h"
+#include "benefits/familiar_frm.h"
 #include "benefits/ilt_frm.h"
 #include "benefits/mater_frm.h"
+#include "benefits/nocon_frm.h"
 #include "benefits/riesgo_embarazo_frm.h"
 #include "pensions/pension_frm.h"
 #include "shell/fondo_frm.h"
@@ -28,6 +30,8 @@ struct PantallaDisponible {
 
 constexpr std::array kDisponibles{
     PantallaDisponible{"PensionFrm", crea<PensionFrm>},
+    PantallaDisponible{"NoConFrm", crea<NoConFrm>},
+    PantallaDisponible{"FamiliarFrm", crea<FamiliarFrm>},
     PantallaDisponible{"DesempFrm", crea<DesempFrm>},
     PantallaDisponible{"MaterFrm", crea<MaterFrm>},
     PantallaDisponible{"ILTFrm", crea<ILTFrm>},

@@ -131,7 +131,7 @@ bool Calculadora::DatosTomaPantalla() {
 }
 
 void Calculadora::ActualizaConclusion() {
-    DatosTomaPantalla();
+    if (!calculaDesdeCampos()) DatosTomaPantalla();
     Dictamen dictamen;
     try {
         calcula(dictamen);

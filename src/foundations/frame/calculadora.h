@@ -77,6 +77,8 @@ class Calculadora : public Formulario {
     [[nodiscard]] virtual std::string NombreSupuesto() const = 0;
 
     [[nodiscard]] virtual std::string nombreDelCampoNombre() const { return "Nombre"; }
+    /// Whether `calcula` reads the fields itself, so that entering the conclusions doesn't copy them first.
+    [[nodiscard]] virtual bool calculaDesdeCampos() const { return false; }
     /// Whether a case whose fields can't all be read is saved with what was copied.
     [[nodiscard]] virtual bool grabaDatosIncompletos() const { return true; }
     /// Panels that `Siguiente` and `Anterior` lead to.
