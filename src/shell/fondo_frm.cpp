@@ -21,7 +21,8 @@ FondoFrm::FondoFrm(Entorno& entorno)
       FondoLista{nuevo({.nombre = "FondoLista",
                         .clase = Clase::ListaAbierta,
                         .alCambiar = [this](Campo&) { muestraResumen(); },
-                        .ayuda = "Libros del capítulo"})},
+                        .ayuda = "Libros del capítulo",
+                        .mismaLinea = true})},
       FondoResumen{
           nuevo({.nombre = "FondoResumen", .rotulo = "Resúmen del libro:", .clase = Clase::Etiqueta})},
       FondoTxt{nuevo({.nombre = "FondoTxt", .clase = Clase::TextoLargo, .ayuda = "Resúmen del libro"})} {
