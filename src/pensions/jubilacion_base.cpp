@@ -1,6 +1,7 @@
 #include "pensions/jubilacion_base.h"
 
 #include <chrono>
+#include <cmath>
 #include <cstdlib>
 
 #include "foundations/values/formatos.h"
@@ -11,9 +12,8 @@ namespace orvemo::jubilacion {
 namespace {
 
 using namespace std::chrono_literals;
-using pensiones::AnioDelMesAnterior;
 using pensiones::IndiceIPC;
-using pensiones::MesDelMesAnterior;
+using pensiones::MesesAnteriores;
 using pensiones::TablasPensiones;
 
 constexpr int kDiasHastaReferencia = 90;  // from the last contribution to the retirement, either way
@@ -28,14 +28,14 @@ bool rellenaLagunas(Regimen regimen) {
 class SerieDelCaso {
   public:
     SerieDelCaso(const RegistroJubilacion& caso, const TablasPensiones& tablas, bool conLagunas)
-        : caso_{caso}, tablas_{tablas}, referencia_{FechaReferencia(caso)}, conLagunas_{conLagunas} {}
+        : caso_{caso}, tablas_{tablas}, meses_{FechaReferencia(caso)}, conLagunas_{conLagunas} {}
 
-    [[nodiscard]] IndiceIPC ipc(int i) const { return tablas_.IPCDe(anio(i), mes(i)); }
+    [[nodiscard]] IndiceIPC ipc(int i) const { return tablas_.IPCDe(meses_.anio(i), meses_.mes(i)); }
 
-    /// A recent month: the figure as it is read on its line, up to the decimal comma.
+    /// A recent month: the figure is read on its line up to the decimal comma, so that its cents are lost.
     [[nodiscard]] double reciente(int i) const {
         if (esLaguna(i)) return minima(i);
-        return LeeNumero(TextoPlano(base(i)));
+        return std::trunc(base(i));
     }
 
     /// An earlier month at the prices of month 25; a gap filled with the minimum base is not brought up to
@@ -46,15 +46,15 @@ class SerieDelCaso {
     }
 
   private:
-    [[nodiscard]] int anio(int i) const { return AnioDelMesAnterior(referencia_, i); }
-    [[nodiscard]] int mes(int i) const { return MesDelMesAnterior(referencia_, i); }
     [[nodiscard]] double base(int i) const { return caso_.JubiBase[static_cast<std::size_t>(i - 1)]; }
     [[nodiscard]] bool esLaguna(int i) const { return conLagunas_ && base(i) == 0; }
-    [[nodiscard]] double minima(int i) const { return tablas_.BaseMinima(anio(i), mes(i), "M"); }
+    [[nodiscard]] double minima(int i) const {
+        return tablas_.BaseMinima(meses_.anio(i), meses_.mes(i), "M");
+    }
 
     const RegistroJubilacion& caso_;
     const TablasPensiones& tablas_;
-    Fecha referencia_;
+    MesesAnteriores meses_;
     bool conLagunas_;
 };
 

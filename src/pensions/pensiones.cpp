@@ -30,10 +30,6 @@ constexpr std::array kSeries{TramoSerie{1998, 120, 3}, TramoSerie{1999, 132, 3},
                              TramoSerie{2001, 156, 4}};
 constexpr TramoSerie kSerieActual{2002, 180, 4};
 
-int numeroDeMes(Fecha fecha) {
-    return 12 * Anio(fecha) + Mes(fecha);
-}
-
 double diasDesde(Periodos periodos, double limite) {
     double dias = 0;
     for (const Periodo& p : periodos) {
@@ -52,11 +48,11 @@ std::string aniosYMeses(int anios, int meses) {
 }  // namespace
 
 int AnioDelMesAnterior(Fecha fecha, int k) {
-    return (numeroDeMes(fecha) - k - 1) / 12;
+    return MesesAnteriores{fecha}.anio(k);
 }
 
 int MesDelMesAnterior(Fecha fecha, int k) {
-    return 1 + (numeroDeMes(fecha) - k - 1) % 12;
+    return MesesAnteriores{fecha}.mes(k);
 }
 
 Fecha PrimeroDeMes(int anio, int mes) {
@@ -64,7 +60,7 @@ Fecha PrimeroDeMes(int anio, int mes) {
 }
 
 int MesesEntreFechas(Fecha desde, Fecha hasta) {
-    return numeroDeMes(hasta) - numeroDeMes(desde);
+    return DiferenciaFechas(Intervalo::Mes, desde, hasta);
 }
 
 double DiasCotizados(Periodos periodos, Fecha fecha) {

@@ -16,7 +16,18 @@ struct Periodo {
 /// The periods that the user filled in, in screen order; they may overlap and need not be sorted.
 using Periodos = std::span<const Periodo>;
 
-/// Year and month of the k-th month before that of `fecha`: k = 1 is the month before.
+/// The months before that of a date: the first is the month before.
+class MesesAnteriores {
+  public:
+    explicit MesesAnteriores(Fecha fecha) : mes_{12 * Anio(fecha) + Mes(fecha)} {}
+    [[nodiscard]] int anio(int k) const { return (mes_ - k - 1) / 12; }
+    [[nodiscard]] int mes(int k) const { return 1 + (mes_ - k - 1) % 12; }
+
+  private:
+    int mes_;  ///< counted from the year 0
+};
+
+/// Year and month of the k-th month before that of `fecha`.
 [[nodiscard]] int AnioDelMesAnterior(Fecha fecha, int k);
 [[nodiscard]] int MesDelMesAnterior(Fecha fecha, int k);
 
