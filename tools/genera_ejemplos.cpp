@@ -12,6 +12,7 @@
 #include "benefits/desempleo_registro.h"
 #include "benefits/nocontributiva_registro.h"
 #include "cases/archivo_supuestos.h"
+#include "ejemplos.h"
 #include "foundations/values/almacen.h"
 #include "foundations/values/fallos.h"
 
@@ -71,6 +72,7 @@ struct Ejemplos {
     void (*escribe)(Almacen&);
 };
 constexpr std::array kEjemplos{
+    Ejemplos{"jubila.nom", ejemplosJubilacion},
     Ejemplos{"desemp.nom", desempleo},
     Ejemplos{"nocont.nom", noContributiva},
 };

@@ -14,7 +14,8 @@
 namespace orvemo::pruebas {
 
 /// A worked story of the user's manual: a table "| Campo | Valor |" with what is written on each field, by
-/// its label without the colon, and after it a block between "```" with the conclusions.
+/// its label without the colon (in a grid, by heading and row: "Desde 2"), and after it a block between "```"
+/// with the conclusions.
 struct CasoDelManual {
     std::vector<std::pair<std::string, std::string>> campos;
     std::string conclusion;  ///< lines ended by "\n"
@@ -25,6 +26,30 @@ namespace manual {
 inline std::string_view sinDosPuntos(std::string_view rotulo) {
     const auto fin = rotulo.find_last_not_of(": ");
     return fin == std::string_view::npos ? rotulo : rotulo.substr(0, fin + 1);
+}
+
+/// How the manual names a field.
+inline std::string etiquetaDe(Calculadora& frm, const Campo& campo) {
+    const Grupo* grupo = campo.def().grupo;
+    if (grupo == nullptr || grupo->def().encabezados.empty())
+        return std::string{sinDosPuntos(campo.rotulo())};
+    int antes = 0;
+    for (const Campo& otro : frm.campos()) {
+        if (&otro == &campo) break;
+        if (otro.def().grupo == grupo) ++antes;
+    }
+    const int columnas = grupo->def().columnas;
+    return grupo->def().encabezados.at(static_cast<std::size_t>(antes % columnas)) + " " +
+           std::to_string(antes / columnas + 1);
+}
+
+/// The field of the panel on view that bears the label; null without one.
+inline Campo* busca(Calculadora& frm, const std::string& rotulo) {
+    const auto esEse = [&](const Campo& campo) {
+        return frm.enPantalla(campo) && etiquetaDe(frm, campo) == rotulo;
+    };
+    const auto campo = std::ranges::find_if(frm.campos(), esEse);
+    return campo == frm.campos().end() ? nullptr : &*campo;
 }
 
 /// "| uno | dos |" in two.
@@ -69,13 +94,14 @@ inline std::vector<CasoDelManual> casosDelManual(const std::string& ruta, std::s
     return casos;
 }
 
-/// Writes on the field of panel on view that bears the label, as the user would.
+/// Writes on the field that bears the label, as the user would, going on to the panel where it stands.
 inline void rellenaComoElManual(Calculadora& frm, const std::string& rotulo, const std::string& valor) {
-    const auto esEse = [&](const Campo& campo) {
-        return frm.enPantalla(campo) && manual::sinDosPuntos(campo.rotulo()) == rotulo;
-    };
-    const auto campo = std::ranges::find_if(frm.campos(), esEse);
-    ASSERT_NE(campo, frm.campos().end()) << "not on view: " << rotulo;
+    Campo* campo = manual::busca(frm, rotulo);
+    while (campo == nullptr && frm.PantallaActual() + 1 < frm.ultimaPantalla()) {
+        ASSERT_TRUE(frm.pulsa(frm.Siguiente)) << rotulo;
+        campo = manual::busca(frm, rotulo);
+    }
+    ASSERT_NE(campo, nullptr) << "not on view: " << rotulo;
     ASSERT_TRUE(frm.foco(*campo)) << rotulo;
     if (campo->def().clase == Clase::Casilla) {
         frm.marca(*campo, valor == "sí");
@@ -88,9 +114,11 @@ inline void rellenaComoElManual(Calculadora& frm, const std::string& rotulo, con
     }
 }
 
-/// The conclusions of a case of one panel of data, its line ends as "\n" and none missing at the end.
+/// The conclusions of the case on screen, its line ends as "\n" and none missing at the end.
 inline std::string conclusionDelPrograma(Calculadora& frm) {
-    EXPECT_TRUE(frm.pulsa(frm.Siguiente));
+    for (int i = 0; i < frm.numPantallas() && frm.PantallaActual() != frm.ultimaPantalla(); ++i) {
+        EXPECT_TRUE(frm.pulsa(frm.Siguiente));
+    }
     std::string texto = frm.textoConclusion();
     std::erase(texto, '\r');
     if (!texto.ends_with('\n')) texto += '\n';

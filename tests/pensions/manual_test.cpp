@@ -1,0 +1,23 @@
+// The stories of the user's manual are what the program says.
+#include "apoyo/manual.h"
+
+#include <gmock/gmock.h>
+
+#include <iterator>
+
+#include "apoyo/entorno_falso.h"
+#include "pensions/pension_frm.h"
+
+namespace orvemo::pruebas {
+namespace {
+
+TEST(Manual, TellsItsStoriesAsTheProgramDoes) {
+    EntornoFalso mundo;
+    std::ifstream ipc{ORVEMO_DATOS "/ipc.txt", std::ios::binary};
+    mundo.almacen["ipc.txt"] = std::string{std::istreambuf_iterator<char>{ipc}, {}};
+    compruebaManual<PensionFrm>(mundo.entorno, ORVEMO_MANUAL, "Jubilación");
+    EXPECT_THAT(mundo.mensajes.dichos, testing::IsEmpty());
+}
+
+}  // namespace
+}  // namespace orvemo::pruebas
