@@ -5,8 +5,10 @@
 
 #include "apoyo/entorno_falso.h"
 #include "benefits/desemp_frm.h"
+#include "benefits/familiar_frm.h"
 #include "benefits/ilt_frm.h"
 #include "benefits/mater_frm.h"
+#include "benefits/nocon_frm.h"
 #include "benefits/riesgo_embarazo_frm.h"
 
 namespace orvemo::pruebas {
@@ -18,6 +20,8 @@ TEST(Manual, TellsItsStoriesAsTheProgramDoes) {
     compruebaManual<ILTFrm>(mundo.entorno, ORVEMO_MANUAL, "Incapacidad temporal");
     compruebaManual<MaterFrm>(mundo.entorno, ORVEMO_MANUAL, "Maternidad");
     compruebaManual<RiesgoEmbarazo>(mundo.entorno, ORVEMO_MANUAL, "Riesgo durante el embarazo");
+    compruebaManual<NoConFrm>(mundo.entorno, ORVEMO_MANUAL, "Jubilación e invalidez no contributivas");
+    compruebaManual<FamiliarFrm>(mundo.entorno, ORVEMO_MANUAL, "Protección familiar");
     EXPECT_THAT(mundo.mensajes.dichos, testing::IsEmpty());
 }
 
