@@ -14,7 +14,7 @@ constexpr std::size_t kPosicionNombre = 1;
 
 /// Bytes fetched at a time while heads are looked through: a call to the disk for many records, and no more
 /// memory for a large file than for a small one.
-constexpr std::size_t kZancada = 64 * 1024;
+constexpr std::size_t kZancada = 65536;
 
 constexpr const char* kSinSitio = "el disco está lleno o no admite más datos; lo que había queda como estaba";
 constexpr const char* kAMedias = "el disco ha fallado a media escritura y lo que había puede estar dañado";

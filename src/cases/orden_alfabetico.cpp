@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <compare>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -83,9 +84,8 @@ struct Ficha {
     EntradaSupuesto* entrada;
 
     friend bool operator<(const Ficha& a, const Ficha& b) {
-        const auto orden = std::tie(a.clave, a.entrada->nombre, a.entrada->registro) <=>
-                           std::tie(b.clave, b.entrada->nombre, b.entrada->registro);
-        return orden < 0;
+        return std::is_lt(std::tie(a.clave, a.entrada->nombre, a.entrada->registro) <=>
+                          std::tie(b.clave, b.entrada->nombre, b.entrada->registro));
     }
 };
 
