@@ -13,6 +13,9 @@ namespace {
 
 constexpr std::size_t kMaximoTexto = 248;
 constexpr std::size_t kMaximoOrden = 2;
+// Characters that the screen shows of the longer texts.
+constexpr int kAnchuraTitulo = 70;
+constexpr int kAnchuraObra = 44;
 
 constexpr std::array<std::string_view, kOpcionesConfig> kRotulos{
     "Jubilación",
@@ -62,13 +65,16 @@ ConfigFrm::ConfigFrm(Entorno& entorno)
                        .alPulsar = [this](Campo&) { oculta(); },
                        .ayuda = "Volver al menú principal",
                        .sinComprobacion = true})},
-      TituloPrograma{nuevo({.nombre = "Titulo", .rotulo = "Título del programa:", .largo = kMaximoTexto})} {
+      TituloPrograma{nuevo({.nombre = "Titulo",
+                            .rotulo = "Título del programa:",
+                            .largo = kMaximoTexto,
+                            .anchura = kAnchuraTitulo})} {
     ponTitulos("CONFIGURACION DEL PROGRAMA", "CONFIGURACION DEL PROGRAMA");
     declaraTabla();
 }
 
 void ConfigFrm::declaraTabla() {
-    Grupo& tabla = nuevoGrupo({.nombre = "Opciones",
+    Grupo& tabla = nuevoGrupo({.nombre = "TablaOpciones",
                                .disposicion = Disposicion::Tabla,
                                .columnas = 3,
                                .encabezados = {"Opciones activadas", "Orden/Obra alternativa", ""}});
@@ -94,7 +100,8 @@ void ConfigFrm::declaraFila(int indice, Grupo& tabla) {
            .indice = indice,
            .grupo = &tabla,
            .largo = kMaximoTexto,
-           .ayuda = "Obra alternativa de " + rotulo});
+           .ayuda = "Obra alternativa de " + rotulo,
+           .anchura = kAnchuraObra});
 }
 
 ConfigFrm::Fila ConfigFrm::fila(int indice) {

@@ -23,9 +23,7 @@ FondoFrm::FondoFrm(Entorno& entorno)
                         .alCambiar = [this](Campo&) { muestraResumen(); },
                         .ayuda = "Libros del capítulo",
                         .mismaLinea = true})},
-      FondoResumen{
-          nuevo({.nombre = "FondoResumen", .rotulo = "Resúmen del libro:", .clase = Clase::Etiqueta})},
-      FondoTxt{nuevo({.nombre = "FondoTxt", .clase = Clase::TextoLargo, .ayuda = "Resúmen del libro"})} {
+      FondoTxt{nuevo({.nombre = "FondoTxt", .rotulo = "Resúmen del libro:", .clase = Clase::TextoLargo})} {
     ponTitulos("FONDO EDITORIAL ORVEMO", "Fondo Editorial Orvemo");
 }
 

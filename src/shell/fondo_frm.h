@@ -32,8 +32,7 @@ class FondoFrm final : public Formulario {
     Grupo& FondoCap;
     Campo& FondoImg;
     Campo& FondoLista;
-    Campo& FondoResumen;
-    Campo& FondoTxt;
+    Campo& FondoTxt;  ///< its label is `FondoResumen`
 };
 
 }  // namespace orvemo

@@ -25,7 +25,8 @@ PresentaFrm::PresentaFrm(Entorno& entorno)
       PresenPan{nuevo({.nombre = "PresenPan", .clase = Clase::Imagen, .ayuda = "Página de información"})},
       EstudioLblTVX{nuevo({.nombre = "EstudioLblTVX",
                            .rotulo = "Programa:  Talvix, S.L.\r\nContacto: vea \"Direcciones de interés\"",
-                           .clase = Clase::Etiqueta})} {
+                           .clase = Clase::Etiqueta,
+                           .pantalla = kPie})} {
     ponTitulos("INFORMACIÓN DEL PROGRAMA", "Información del programa");
 }
 

@@ -5,7 +5,7 @@
 
 #include "toolkit/boton_campo.h"
 #include "toolkit/fecha_campo.h"
-#include "toolkit/imagenes_qt.h"
+#include "toolkit/imagen_campo.h"
 #include "toolkit/linea_campo.h"
 #include "toolkit/listas_campo.h"
 #include "toolkit/marca_veredicto.h"
@@ -65,31 +65,6 @@ class EtiquetaCampo final : public QLabel, public Control {
     void refrescaValor() override {
         setText(aQt(campo().texto().empty() ? campo().rotulo() : campo().texto()));
     }
-};
-
-class ImagenCampo final : public QLabel, public Control {
-  public:
-    ImagenCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfitrion} {
-        setAlignment(Qt::AlignCenter);
-    }
-    [[nodiscard]] QWidget& widget() override { return *this; }
-
-  protected:
-    void refrescaValor() override {
-        if (campo().texto() == nombre_) return;
-        setPixmap(campo().texto().empty() ? QPixmap{} : escalada(anfitrion().imagen(campo().texto())));
-        nombre_ = campo().texto();
-    }
-
-  private:
-    /// Grown with the screen; on the bar, as large as the bar.
-    [[nodiscard]] QPixmap escalada(const QPixmap& imagen) const {
-        const QSize sitio = campo().pantalla() == kBarra ? QSize{px(kLadoLogo), px(kLadoLogo)}
-                                                         : (QSizeF{imagen.size()} * escala()).toSize();
-        return encajada(imagen, sitio, devicePixelRatioF());
-    }
-
-    std::string nombre_;
 };
 
 class VeredictoCampo final : public MarcaVeredicto, public Control {

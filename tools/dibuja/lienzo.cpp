@@ -11,6 +11,7 @@ namespace orvemo::dibuja {
 namespace {
 
 constexpr int kPuntosPorUnidad = 2;
+constexpr int kUnidadesPorMetro = 3780;  // 96 to the inch
 constexpr double kInterlineado = 1.35;
 constexpr int kColores = 256;
 
@@ -92,7 +93,10 @@ double Lienzo::parrafo(QRectF caja, const QString& texto, double cuerpo, QColor 
 
 void Lienzo::guarda(const QString& fichero) {
     pincel_.end();
-    escribe(reduceColores(imagen_), fichero);
+    QImage imagen = reduceColores(imagen_);
+    imagen.setDotsPerMeterX(kPuntosPorUnidad * kUnidadesPorMetro);
+    imagen.setDotsPerMeterY(kPuntosPorUnidad * kUnidadesPorMetro);
+    escribe(imagen, fichero);
 }
 
 QImage reduceColores(const QImage& imagen) {
