@@ -53,6 +53,11 @@ DefCampo fechaEscrita(std::string nombre, std::string rotulo, Reaccion alCambiar
             .alCambiar = std::move(alCambiar)};
 }
 
+DefCampo conAnchura(DefCampo def, int caracteres) {
+    def.anchura = caracteres;
+    return def;
+}
+
 DefCampo alLado(DefCampo def) {
     def.mismaLinea = true;
     return def;

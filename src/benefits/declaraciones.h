@@ -33,6 +33,9 @@ namespace orvemo {
 /// A typed date, which may be blank or bad. The screen itself sets today in a new case.
 [[nodiscard]] DefCampo fechaEscrita(std::string nombre, std::string rotulo, Reaccion alCambiar = {});
 
+/// The same field, as many characters wide.
+[[nodiscard]] DefCampo conAnchura(DefCampo def, int caracteres);
+
 /// The same field beside the one before it.
 [[nodiscard]] DefCampo alLado(DefCampo def);
 

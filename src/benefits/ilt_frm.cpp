@@ -26,6 +26,7 @@ const std::vector<std::string> kCausasRegimenGeneral{"Enfermedad Común", "Accid
                                                      "Accidente Laboral/Enfermedad Profesional"};
 const std::vector<std::string> kCausasRegimenEspecial{"Enfermedad", "Accidente"};
 constexpr int kAccidenteLaboral = 2;
+constexpr int kAnchuraTBaja = 30;  // wide letters: enough for the longest cause, whichever the scheme
 
 constexpr const char* kRotuloBaseComun =
     "Base de cotización por C. Comunes, en el mes anterior al de la baja:";
@@ -58,10 +59,12 @@ ILTFrm::ILTFrm(Entorno& entorno)
                             [this](Campo&) { cambiaSituacion(); }))},
       fAlta{nuevo(fechaElegida(
           "fAlta", "Fecha de alta en la Seguridad Social:", [this](Campo&) { AjustaPantalla(); }))},
-      TBaja{nuevo(lista("TBaja", "Causa de la baja:", kCausasAlAbrir, [this](Campo&) { AjustaPantalla(); }))},
+      TBaja{nuevo(conAnchura(
+          lista("TBaja", "Causa de la baja:", kCausasAlAbrir, [this](Campo&) { AjustaPantalla(); }),
+          kAnchuraTBaja))},
       DM{nuevo(lista("DM", "Tipo de cotización :", {"Diaria", "Mensual"}))},
       f1{nuevo(fechaElegida("f1", "Fecha de baja por IT:", [this](Campo&) { AjustaPantalla(); }))},
-      f2{nuevo(fechaElegida("f2", "Fecha de alta:"))},
+      f2{nuevo(alLado(fechaElegida("f2", "Fecha de alta:")))},
       Bccant{nuevo(decimal("Bccant", kRotuloBaseComun, rango("0", kTope)))},
       Batant{nuevo(decimal("Batant", "Base de cotización por A.T. y E.P., en el mes anterior al de la baja:",
                            rango("0", kTope)))},

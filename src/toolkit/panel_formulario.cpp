@@ -70,11 +70,29 @@ QLabel* nuevoEncabezado(const std::string& texto) {
     return encabezado;
 }
 
-/// A field that hides leaves its place empty: the columns must not jump while the user types.
+/// In tables and beside others a field that hides leaves its place empty: the columns must not jump while the
+/// user types. A row of its own gives its room to those below.
+bool conservaSuSitio(const Campo& campo) {
+    const Grupo* grupo = campo.def().grupo;
+    const bool enFilas = grupo == nullptr || grupo->def().disposicion == Disposicion::Filas;
+    return !esVeredicto(campo) && (!enFilas || campo.def().mismaLinea);
+}
+
 void conservaSitio(QWidget& widget) {
     QSizePolicy politica = widget.sizePolicy();
     politica.setRetainSizeWhenHidden(true);
     widget.setSizePolicy(politica);
+}
+
+/// The column of labels is as wide as the widest of them, seen or not.
+void fijaColumnaDeRotulos(QGridLayout& rejilla) {
+    int ancho = 0;
+    for (int fila = 0; fila < rejilla.rowCount(); ++fila) {
+        const QLayoutItem* lugar = rejilla.itemAtPosition(fila, kColRotulo);
+        const auto* rotulo = lugar == nullptr ? nullptr : qobject_cast<QLabel*>(lugar->widget());
+        if (rotulo != nullptr) ancho = std::max(ancho, rotulo->sizeHint().width());
+    }
+    rejilla.setColumnMinimumWidth(kColRotulo, ancho);
 }
 
 }  // namespace
@@ -162,6 +180,7 @@ void PanelFormulario::reparteEnFilas(QGridLayout& rejilla, const Filas& filas) {
             ponPar(rejilla, fila, 0, campos);
         }
     }
+    fijaColumnaDeRotulos(rejilla);
     rejilla.setColumnStretch(kColCampo, 1);
 }
 
@@ -250,6 +269,7 @@ void PanelFormulario::ponVeredictos(QGridLayout& rejilla, const Filas& filas) {
 
 QLayout* PanelFormulario::enLinea(const Fila& campos, RotuloDelPrimero rotulo) {
     auto* linea = new QHBoxLayout;
+    linea->setSpacing(px(kHuecoColumnas / 2));
     for (Campo* campo : campos) {
         Control& control = crea(*campo);
         const bool rotulado = campo != campos.front() || rotulo == RotuloDelPrimero::EnLinea;
@@ -264,14 +284,14 @@ QLayout* PanelFormulario::enLinea(const Fila& campos, RotuloDelPrimero rotulo) {
 
 Control& PanelFormulario::crea(Campo& campo) {
     Control& control = *nuevoControl(campo, anfitrion_, this);
-    if (!esVeredicto(campo)) conservaSitio(control.widget());
+    if (conservaSuSitio(campo)) conservaSitio(control.widget());
     controles_.push_back(&control);
     return control;
 }
 
 QLabel* PanelFormulario::creaRotulo(Control& control) {
     auto* rotulo = new RotuloCampo{this};
-    conservaSitio(*rotulo);
+    if (conservaSuSitio(control.campo())) conservaSitio(*rotulo);
     rotulo->setBuddy(&control.widget());
     control.ponRotulo(rotulo);
     control.refresca();
