@@ -37,10 +37,8 @@ PensionFrm::PensionFrm(Entorno& entorno)
                     {.titulo = "PENSIONES DE JUBILACIÓN",
                      .caption = "Cálculo de pensiones de jubilación",
                      .fichero = "jubila.nom",
-                     .subtitulos = {"Datos del solicitante", "Periodos cotizados", "Bases de cotización",
-                                    "Bases de cotización", "Bases de cotización", "Bases de cotización",
-                                    "Bases de cotización", "Bases de cotización",
-                                    "CONCLUSIONES SOBRE PENSIÓN DE JUBILACIÓN"}}},
+                     .subtitulos = {"Datos del solicitante", "Periodos cotizados", "Bases de cotización", "",
+                                    "", "", "", "", "CONCLUSIONES SOBRE PENSIÓN DE JUBILACIÓN"}}},
       JubiNombre{nuevo({.nombre = "JubiNombre", .rotulo = "Nombre completo:", .largo = 80})},
       JubiFechaNac{
           nuevo({.nombre = "JubiFechaNac", .rotulo = "Fecha de nacimiento:", .clase = Clase::FechaSelector})},
@@ -94,7 +92,6 @@ PensionFrm::PensionFrm(Entorno& entorno)
                  .filtro = TeclaNumero,
                  .formato = "##,###,##0.00",
                  .alSalir = [this](Campo& suma) { compruebaImporte(suma, kMaximaSuma, "99,999,999"); }})},
-      marcos_{nuevosMarcosDeBases()},
       bases_{nuevasBases()} {}
 
 Campo& PensionFrm::nuevasHoras(std::string nombre, std::string rotulo) {
@@ -182,6 +179,14 @@ int PensionFrm::pantallaAnterior(int pantalla) const {
 void PensionFrm::dejaPantalla(int pantalla) {
     if (pantalla == kDatos) PreparaBasesJubilacion();
     if (pantalla == kPeriodos) preparaSerie();
+}
+
+/// A frame of bases bears its own caption there.
+std::string PensionFrm::subtituloDe(int pantalla) const {
+    const int marco = pantalla - kPrimerMarco + 1;
+    if (marco < 1 || marco > kMarcos) return Calculadora::subtituloDe(pantalla);
+    return "Bases de cotización de los últimos " + TextoPlano(serie_.MesesBases) + "  meses (" +
+           TextoPlano(marco) + ")";
 }
 
 void PensionFrm::calcula(Dictamen& dictamen) {

@@ -42,6 +42,7 @@ class PensionFrm final : public CalculadoraDe<jubilacion::RegistroJubilacion, ju
     [[nodiscard]] int pantallaSiguiente(int pantalla) const override;
     [[nodiscard]] int pantallaAnterior(int pantalla) const override;
     void dejaPantalla(int pantalla) override;
+    [[nodiscard]] std::string subtituloDe(int pantalla) const override;
 
   private:
     // Panels. There is one for each frame of bases.
@@ -65,7 +66,6 @@ class PensionFrm final : public CalculadoraDe<jubilacion::RegistroJubilacion, ju
     FilaPeriodo nuevaFila(Grupo& grupo, int fila);
     Campo& nuevasHoras(std::string nombre, std::string rotulo);
     std::vector<FilaPeriodo> nuevasFilas();
-    std::vector<Grupo*> nuevosMarcosDeBases();
     std::vector<Campo*> nuevasBases();
 
     // --- Reactions
@@ -104,7 +104,6 @@ class PensionFrm final : public CalculadoraDe<jubilacion::RegistroJubilacion, ju
     Campo& JubiSumaBases;
 
   private:
-    std::vector<Grupo*> marcos_;
     std::vector<Campo*> bases_;
     std::optional<pensiones::TablasPensiones> tablas_;
     pensiones::SerieBases serie_{};

@@ -24,32 +24,28 @@ constexpr int kLineasPorColumna = 12;
 
 // --- Declaration
 
-std::vector<Grupo*> PensionFrm::nuevosMarcosDeBases() {
-    std::vector<Grupo*> marcos;
-    for (int marco = 0; marco < kMarcos; ++marco) {
-        marcos.push_back(&nuevoGrupo({.nombre = "JubiBases" + TextoPlano(marco + 1),
-                                      .pantalla = kPrimerMarco + marco,
-                                      .disposicion = Disposicion::Columnas,
-                                      .columnas = kLineasPorMarco / kLineasPorColumna}));
-    }
-    return marcos;
-}
-
 std::vector<Campo*> PensionFrm::nuevasBases() {
     std::vector<Campo*> bases;
     bases.reserve(kLineasGuardadas);
+    Grupo* marco = nullptr;
     for (int i = 1; i <= kLineasGuardadas; ++i) {
-        const int marco = (i - 1) / kLineasPorMarco;
+        const int pantalla = kPrimerMarco + (i - 1) / kLineasPorMarco;
+        if ((i - 1) % kLineasPorMarco == 0) {
+            marco = &nuevoGrupo({.nombre = "JubiBases",
+                                 .pantalla = pantalla,
+                                 .disposicion = Disposicion::Columnas,
+                                 .columnas = kLineasPorMarco / kLineasPorColumna});
+        }
         bases.push_back(&nuevo({.nombre = "JubiBase",
                                 .indice = i,
-                                .pantalla = kPrimerMarco + marco,
-                                .grupo = marcos_[static_cast<std::size_t>(marco)],
+                                .pantalla = pantalla,
+                                .grupo = marco,
                                 .defecto = "0",
                                 .filtro = TeclaNumero,
                                 .formato = kFormatoBase,
                                 .alSalir = [this, i](Campo&) { dejaBase(i); },
                                 .alEscribir = [this](Campo&) { BaseEditada_ = true; },
-                                .anchura = 10}));
+                                .anchura = 9}));
     }
     return bases;
 }
@@ -80,11 +76,6 @@ void PensionFrm::preparaSerie() {
     referencia_ = jubilacion::FechaReferencia(static_cast<Regimen>(JubiRegimen.indice() + 1), jubilacion,
                                               ultimosDias());
     serie_ = pensiones::SerieBasesDe(Anio(jubilacion));
-    for (int marco = 1; marco <= kMarcos; ++marco) {
-        marcos_[static_cast<std::size_t>(marco - 1)]->ponTitulo("Bases de cotización de los últimos " +
-                                                                TextoPlano(serie_.MesesBases) + "  meses (" +
-                                                                TextoPlano(marco) + ")");
-    }
     for (int i = 1; i <= kLineasGuardadas; ++i) {
         JubiBase(i).ponVisible(i <= serie_.MesesBases);
         if (i <= serie_.MesesBases) JubiBase(i).ponRotulo(rotuloDeBase(i));
