@@ -4,3 +4,12 @@
 
 /// Writes "jubila.nom".
 void ejemplosJubilacion(orvemo::Almacen& directorio);
+
+/// Writes "ILT.nom".
+void ejemplosIncapacidadTemporal(orvemo::Almacen& directorio);
+
+/// Writes "Mater.nom".
+void ejemplosMaternidad(orvemo::Almacen& directorio);
+
+/// Writes "RiesgoEm.nom".
+void ejemplosRiesgoEmbarazo(orvemo::Almacen& directorio);

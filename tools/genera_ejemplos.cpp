@@ -74,6 +74,9 @@ struct Ejemplos {
 constexpr std::array kEjemplos{
     Ejemplos{"jubila.nom", ejemplosJubilacion},
     Ejemplos{"desemp.nom", desempleo},
+    Ejemplos{"ILT.nom", ejemplosIncapacidadTemporal},
+    Ejemplos{"Mater.nom", ejemplosMaternidad},
+    Ejemplos{"RiesgoEm.nom", ejemplosRiesgoEmbarazo},
     Ejemplos{"nocont.nom", noContributiva},
 };
 
