@@ -8,7 +8,8 @@ destino=$(realpath -m "${1:-$(dirname "$0")/build/release/orvemo}")
 cd "$(dirname "$0")"
 . scripts/paquetes.sh
 
-# The cases that ship, by the calculator that reads them.
+# The cases that ship, by the calculator that reads them. Their people live in the year of the figures.
+HOY_DE_LOS_EJEMPLOS=2005-07-01
 EJEMPLOS=(
     "jubilacion      ejemplos/jubila.nom"
     "incapacidad     ejemplos/invalid.nom"
@@ -30,7 +31,8 @@ calcula_ejemplos() {
         read -r calculadora fichero <<<"$ejemplo"
         if [ -f "$destino/$fichero" ]; then
             printf '\n=== %s: %s\n\n' "$calculadora" "$fichero"
-            "$destino/orvemo-lote" "$calculadora" "$destino/$fichero" --datos "$destino" || estado=1
+            "$destino/orvemo-lote" "$calculadora" "$destino/$fichero" --datos "$destino" \
+                --hoy "$HOY_DE_LOS_EJEMPLOS" || estado=1
         fi
     done
     return $estado

@@ -22,11 +22,16 @@ constexpr std::array<Barra, 3> kBarras{{{27, 18}, {44.5, 31}, {62, 44}}};
 
 constexpr int kLadoLogo = 200;
 constexpr std::array kLadosIconos{16, 32, 48, 64, 128, 256};
-constexpr double kMargen = 0.14;  // ground around the mark, of the side
+constexpr double kMargen = 0.14;        // ground around the mark, of the side
+constexpr double kRadioEsquina = 0.15;  // the same
 
-QRectF sinMargen(double lado) {
+/// The mark in white on a square of the house's colour with round corners.
+void dibujaPlaca(QPainter& pincel, double lado) {
+    pincel.setPen(Qt::NoPen);
+    pincel.setBrush(kAcento);
+    pincel.drawRoundedRect(QRectF(0, 0, lado, lado), lado * kRadioEsquina, lado * kRadioEsquina);
     const double margen = lado * kMargen;
-    return {margen, margen, lado - 2 * margen, lado - 2 * margen};
+    dibujaMarca(pincel, {margen, margen, lado - 2 * margen, lado - 2 * margen}, {kBlanco, kBlanco});
 }
 
 void dibujaIcono(int lado) {
@@ -34,10 +39,7 @@ void dibujaIcono(int lado) {
     icono.fill(Qt::transparent);
     QPainter pincel(&icono);
     pincel.setRenderHint(QPainter::Antialiasing);
-    pincel.setPen(Qt::NoPen);
-    pincel.setBrush(kAcento);
-    pincel.drawRoundedRect(QRectF(0, 0, lado, lado), lado / 6.0, lado / 6.0);
-    dibujaMarca(pincel, sinMargen(lado), {kBlanco, kBlanco});
+    dibujaPlaca(pincel, lado);
     pincel.end();
     escribe(icono, QStringLiteral("icono-%1.png").arg(lado));
 }
@@ -60,8 +62,8 @@ void dibujaMarca(QPainter& pincel, QRectF caja, ColoresMarca colores) {
 }
 
 void dibujaLogo() {
-    Lienzo lienzo(kLadoLogo, kLadoLogo, kAcento);
-    dibujaMarca(lienzo.pincel(), sinMargen(kLadoLogo), {kBlanco, kBlanco});
+    Lienzo lienzo(kLadoLogo, kLadoLogo, kPanel);
+    dibujaPlaca(lienzo.pincel(), kLadoLogo);
     lienzo.guarda(QStringLiteral("logo.bmp"));
 }
 

@@ -15,7 +15,7 @@ struct ColoresMarca {
 /// The house's mark within `caja`: the O of Orvemo around three rising bars.
 void dibujaMarca(QPainter& pincel, QRectF caja, ColoresMarca colores);
 
-/// "logo.bmp": the mark on a full square, so that it sits on any ground, screen or paper.
+/// "logo.bmp": the mark as it stands on the panels and heads the printed pages.
 void dibujaLogo();
 /// "icono-N.png" for each size that desktops ask for.
 void dibujaIconos();

@@ -23,7 +23,6 @@ constexpr QColor kTonoBarras{0x41, 0x73, 0xA1};
 void dibujaPortada() {
     Lienzo lienzo(kAncho, kAlto, kAcento);
     dibujaMarca(lienzo.pincel(), kMarcaDeFondo, {kTono, kTonoBarras});
-    dibujaMarca(lienzo.pincel(), {kMargen, 44, 64, 64}, {kBlanco, kBlanco});
     lienzo.linea({kMargen, 196}, QStringLiteral("PENSIONES"), 62, kBlanco, QFont::Bold);
     lienzo.linea({kMargen, 262}, QStringLiteral("ORVEMO"), 62, kBlanco, QFont::Bold);
     lienzo.linea({kMargen, 348}, QStringLiteral("Simulador de prestaciones,"), 25, kAcentoPalido);

@@ -10,9 +10,10 @@ namespace orvemo::dibuja {
 
 namespace {
 
-constexpr int kAncho = 600;
-constexpr int kAlto = 360;
-constexpr double kMargen = 34;
+// The shape of the room that the information screen leaves for them.
+constexpr int kAncho = 720;
+constexpr int kAlto = 340;
+constexpr double kMargen = 24;
 constexpr double kSangria = 22;
 
 struct Apartado {
@@ -36,7 +37,7 @@ constexpr std::array<Pagina, 3> kPaginas{{
         "Elija un cálculo en el menú, rellene el supuesto y pulse Siguiente. Las conclusiones se imprimen y "
         "el supuesto se guarda."},
        {"Año de las cifras",
-        "Cuantías, bases y tipos del año 2005. La escala de las retenciones es la del año 2004."}}}},
+        "Cuantías, bases y tipos de 2005. La escala de las retenciones es la de 2004."}}}},
     {"presen2.bmp",
      "Nota del autor",
      {{{"Es una simulación",
@@ -74,10 +75,10 @@ double dibujaApartado(Lienzo& lienzo, double y, const Apartado& apartado) {
 
 void dibujaPagina(const Pagina& pagina) {
     Lienzo lienzo(kAncho, kAlto, kPanel);
-    lienzo.pincel().setBrush(kAcento);
-    lienzo.pincel().drawRect(QRectF(0, 0, kAncho, 6));
-    lienzo.linea({kMargen, 28}, QString::fromUtf8(pagina.titulo), 28, kAcento, QFont::Bold);
-    double y = 84;
+    lienzo.linea({kMargen, 10}, QString::fromUtf8(pagina.titulo), 28, kAcento, QFont::Bold);
+    lienzo.pincel().setBrush(kAcentoClaro);
+    lienzo.pincel().drawRect(QRectF(kMargen, 48, 44, 4));
+    double y = 70;
     for (const Apartado& apartado : pagina.apartados) {
         y = dibujaApartado(lienzo, y, apartado);
     }
