@@ -37,7 +37,7 @@ class DialogoSupuestos {
     virtual void BotonBorrar() = 0;
     /// Nothing chosen; the dialog hides.
     void BotonCancelar();
-    /// Closed by its title bar or Escape: hides, and `Registro` stays as it is.
+    /// Closed by its title bar: hides, and `Registro` stays as it is.
     void cierra();
 
     /// Told whenever list, selection, name or visibility change; the toolkit redraws then.

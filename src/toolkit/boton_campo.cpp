@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QPushButton>
+#include <QShortcut>
 #include <QToolButton>
 #include <array>
 #include <string_view>
@@ -47,10 +48,9 @@ Aspecto aspectoDe(const Campo& campo) {
 template <typename Boton>
 class BotonCampo final : public Boton, public Control {
   public:
-    BotonCampo(Campo& campo, Anfitrion& anfitrion, const Aspecto& aspecto)
-        : Control{campo, anfitrion}, atajo_{QString::fromLatin1(aspecto.atajo)} {
+    BotonCampo(Campo& campo, Anfitrion& anfitrion, const Aspecto& aspecto) : Control{campo, anfitrion} {
         this->setIcon(icono(aspecto.dibujo));
-        this->setToolTip(ayudaConTeclas());
+        ponAyudaYTeclas(QKeySequence{QString::fromLatin1(aspecto.atajo)});
         QObject::connect(this, &QAbstractButton::clicked, this, [this] { pulsa(); });
     }
     [[nodiscard]] QWidget& widget() override { return *this; }
@@ -58,23 +58,26 @@ class BotonCampo final : public Boton, public Control {
   protected:
     void refrescaValor() override {
         this->setText(aQt(campo().rotulo().empty() ? campo().def().ayuda : campo().rotulo()));
-        // A new caption takes the keys away, for a mnemonic or for none.
-        if (!atajo_.isEmpty()) this->setShortcut(atajo_);
     }
 
   private:
-    [[nodiscard]] QString ayudaConTeclas() const {
+    /// The tip tells the keys too. They act at once: a button's own shortcut would first show itself pressed
+    /// for a while, in which the next keys would still fall on the field left.
+    void ponAyudaYTeclas(const QKeySequence& teclas) {
         const QString ayuda = aQt(campo().def().ayuda);
-        if (ayuda.isEmpty() || atajo_.isEmpty()) return ayuda;
-        return QStringLiteral("%1 (%2)").arg(ayuda, atajo_.toString(QKeySequence::NativeText));
+        this->setToolTip(ayuda);
+        if (teclas.isEmpty()) return;
+        if (!ayuda.isEmpty()) {
+            this->setToolTip(QStringLiteral("%1 (%2)").arg(ayuda, teclas.toString(QKeySequence::NativeText)));
+        }
+        auto* atajo = new QShortcut{teclas, this};
+        QObject::connect(atajo, &QShortcut::activated, this, [this] { pulsa(); });
     }
 
     void pulsa() {
         const bool libre = campo().def().sinComprobacion || anfitrion().tomaFoco(*this);
         if (libre) formulario().pulsa(campo());
     }
-
-    QKeySequence atajo_;
 };
 
 Control* botonDeBarra(Campo& campo, Anfitrion& anfitrion, const Aspecto& aspecto) {

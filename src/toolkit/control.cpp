@@ -20,8 +20,14 @@ void Control::refrescaRotulo() {
     rotulo_->setText(aQt(campo_.rotulo()));
 }
 
+void Control::ponNombreAccesible(const QString& nombre) {
+    nombreAccesible_ = nombre;
+    refrescaNombre();
+}
+
 void Control::refrescaNombre() {
-    QString nombre = aQt(campo_.rotulo()).remove(QLatin1Char('&')).trimmed();
+    QString nombre = aQt(campo_.rotulo()).trimmed();
+    if (campo_.def().clase == Clase::Boton) nombre.remove(QLatin1Char('&'));  // its mnemonic
     if (nombre.isEmpty()) nombre = aQt(campo_.def().ayuda);
     if (nombre.isEmpty()) nombre = nombreAccesible_;
     widget().setAccessibleName(nombre);

@@ -37,7 +37,7 @@ class Control {
     /// The label that stands beside the widget and follows its visibility.
     void ponRotulo(QLabel* rotulo) { rotulo_ = rotulo; }
     /// What an aid for the blind calls it when it has neither label nor tip.
-    void ponNombreAccesible(const QString& nombre) { nombreAccesible_ = nombre; }
+    void ponNombreAccesible(const QString& nombre);
 
     /// Shows the field as it is in the model now.
     void refresca();

@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <ranges>
+#include <utility>
 
 #include "toolkit/controles.h"
 #include "toolkit/imagenes_qt.h"
@@ -140,7 +141,6 @@ QLayout* VistaFormulario::fila(int pantalla) {
 }
 
 void VistaFormulario::construye(int pantalla) {
-    if (caducadas_.erase(pantalla) > 0) descarta(pantalla);
     if (paneles_.contains(pantalla) || pantalla < 0) return;
     auto* panel = new PanelFormulario{pantalla, *this};
     paneles_[pantalla] = panel;
@@ -203,20 +203,22 @@ void VistaFormulario::refrescaTitulos() {
 }
 
 void VistaFormulario::reconstruye(int pantalla) {
-    if (!paneles_.contains(pantalla) || !caducadas_.insert(pantalla).second) return;
-    if (pantalla != formulario_.PantallaActual()) return;
+    if (!paneles_.contains(pantalla)) return;
+    if (pantalla != formulario_.PantallaActual()) return descarta(pantalla);
     // The panel on view is made anew once for all the fields that are moving.
-    QMetaObject::invokeMethod(
-        this, [this] { rehaz(formulario_.PantallaActual()); }, Qt::QueuedConnection);
+    if (!caducadas_.insert(pantalla).second) return;
+    QMetaObject::invokeMethod(this, &VistaFormulario::rehaz, Qt::QueuedConnection);
 }
 
-void VistaFormulario::rehaz(int pantalla) {
-    muestraPantalla(pantalla);
+void VistaFormulario::rehaz() {
+    if (caducadas_.empty()) return;
+    muestraPantalla(formulario_.PantallaActual());
     const Campo* actual = formulario_.actual();
-    if (actual != nullptr && actual->pantalla() == pantalla) enfoca(*actual);
+    if (actual != nullptr && formulario_.enPantalla(*actual)) enfoca(*actual);
 }
 
 void VistaFormulario::muestraPantalla(int pantalla) {
+    for (const int caducada : std::exchange(caducadas_, {})) descarta(caducada);
     construye(pantalla);
     pila_->setCurrentIndex(pantalla);
 }

@@ -57,7 +57,7 @@ class VistaFormulario final : public QDialog, public Vista, public Anfitrion {
     [[nodiscard]] QLayout* fila(int pantalla);
     [[nodiscard]] QWidget* nuevoLogo();
     void construye(int pantalla);
-    void rehaz(int pantalla);
+    void rehaz();
     void descarta(int pantalla);
     void encadenaTabulador();
     [[nodiscard]] Control* control(const Campo& campo) const;
@@ -69,7 +69,7 @@ class VistaFormulario final : public QDialog, public Vista, public Anfitrion {
     QLabel* subtitulo_;
     QStackedWidget* pila_;
     std::map<int, PanelFormulario*> paneles_;
-    std::set<int> caducadas_;  ///< panels whose fields are others since they were made
+    std::set<int> caducadas_;  ///< the panel on view, while its fields are moving
     std::unordered_map<const Campo*, Control*> controles_;
 };
 
