@@ -1,9 +1,8 @@
 #include "benefits/desemp_frm.h"
 
-#include "benefits/datos_informe.h"
-#include "benefits/declaraciones.h"
 #include "benefits/desempleo.h"
-#include "foundations/frame/informe.h"
+#include "foundations/frame/datos_informe.h"
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 
@@ -22,10 +21,8 @@ DesempFrm::DesempFrm(Entorno& entorno)
       Suma{nuevo(decimal("Suma", "Suma de cotizaciones de los últimos 180 días:", rango("0", "999999")))},
       Dias{nuevo(entero("Dias", "Días cotizados en los 6 años anteriores:", rango("0", "9999")))},
       Hijos{nuevo(entero("Hijos", "Número de hijos menores de 26 años o minusválidos:", rango("0", "20")))},
-      Parcial{nuevo({.nombre = "Parcial",
-                     .rotulo = "Marque si es contrato a tiempo parcial ",
-                     .clase = Clase::Casilla,
-                     .alCambiar = [this](Campo& parcial) { Horas.ponVisible(parcial.marcado()); }})},
+      Parcial{nuevo(casilla("Parcial", "Marque si es contrato a tiempo parcial ",
+                            [this](Campo& parcial) { Horas.ponVisible(parcial.marcado()); }))},
       Horas{nuevo({.nombre = "Horas",
                    .rotulo = "Horas reales trabajadas durante la semana (1 a 39 horas):",
                    .defecto = "0",

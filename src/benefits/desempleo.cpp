@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -31,15 +32,37 @@ struct Banda {
     int desde;  // days contributed
     int dias;   // days of benefit
 };
-constexpr std::array kBandas{Banda{2160, 720}, Banda{1980, 660}, Banda{1800, 600}, Banda{1620, 540},
-                             Banda{1440, 480}, Banda{1260, 420}, Banda{1080, 360}, Banda{900, 300},
-                             Banda{720, 240},  Banda{540, 180},  Banda{360, 120}};
+// clang-format off
+constexpr std::array kBandas{
+    Banda{ 360, 120},
+    Banda{ 540, 180},
+    Banda{ 720, 240},
+    Banda{ 900, 300},
+    Banda{1080, 360},
+    Banda{1260, 420},
+    Banda{1440, 480},
+    Banda{1620, 540},
+    Banda{1800, 600},
+    Banda{1980, 660},
+    Banda{2160, 720},
+};
+// clang-format on
 
 struct DiaFestivo {
     int dia, mes;
 };
-constexpr std::array kFestivos{DiaFestivo{2, 1},  DiaFestivo{6, 1},  DiaFestivo{25, 7}, DiaFestivo{12, 10},
-                               DiaFestivo{6, 12}, DiaFestivo{8, 12}, DiaFestivo{25, 12}};
+// 2 January is one of them, 1 January isn't.
+// clang-format off
+constexpr std::array kFestivos{
+    DiaFestivo{ 2,  1},
+    DiaFestivo{ 6,  1},
+    DiaFestivo{25,  7},
+    DiaFestivo{12, 10},
+    DiaFestivo{ 6, 12},
+    DiaFestivo{ 8, 12},
+    DiaFestivo{25, 12},
+};
+// clang-format on
 
 bool esFestivo(Fecha fecha) {
     return std::ranges::any_of(
@@ -134,8 +157,8 @@ void avisaDeRetraso(int fueraDePlazo, Dictamen& d) {
 }  // namespace
 
 int DiasPrestacion(int Dias) {
-    const auto banda = std::ranges::find_if(kBandas, [&](const Banda& b) { return Dias >= b.desde; });
-    return banda == kBandas.end() ? 0 : banda->dias;
+    const auto siguiente = std::ranges::upper_bound(kBandas, Dias, {}, &Banda::desde);
+    return siguiente == kBandas.begin() ? 0 : std::prev(siguiente)->dias;
 }
 
 int DiasFueraPlazo(Fecha desde, Fecha hasta) {

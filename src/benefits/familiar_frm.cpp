@@ -1,9 +1,8 @@
 #include "benefits/familiar_frm.h"
 
-#include "benefits/datos_informe.h"
-#include "benefits/declaraciones.h"
 #include "benefits/proteccion_familiar.h"
-#include "foundations/frame/informe.h"
+#include "foundations/frame/datos_informe.h"
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 

@@ -1,9 +1,9 @@
 #include "benefits/ilt_frm.h"
 
-#include "benefits/datos_informe.h"
-#include "benefits/declaraciones.h"
 #include "benefits/incapacidad_temporal.h"
 #include "benefits/meses.h"
+#include "foundations/frame/datos_informe.h"
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 
@@ -214,16 +214,22 @@ void imprimeBases(const ILTFrm& frm, Informe& informe) {
 }
 
 // The amounts of the frames go on paper as they stand on their fields.
-void imprimeDatosAdicionales(const ILTFrm& frm, Informe& informe) {
-    lineaSiSeVe(informe, frm.Bact, "Salario Base Mensual: " + frm.Bact.texto());
-    lineaSiSeVe(informe, frm.Extra, "Número de pagas extra: " + numeroDe(frm.Extra, "##0"));
-    lineaSiSeVe(informe, frm.IExtra, "Importe de las pagas: " + frm.IExtra.texto());
-    lineaSiSeVe(informe, frm.B12, "Suma Bases Cot. 3 últimos meses: " + frm.B12.texto());
-    lineaSiSeVe(informe, frm.D12, "Días efectivamente cotizados: " + numeroDe(frm.D12, "##0"));
-    lineaSiSeVe(informe, frm.HorasAno, "Total de horas trabajadas al año: " + numeroDe(frm.HorasAno, "###0"));
-    lineaSiSeVe(informe, frm.DSem, "Días de la semana que trabaja: " + frm.DSem.texto());
-    lineaSiSeVe(informe, frm.Prev,
-                "Días pasados en IT en los 6 meses anteriores: " + numeroDe(frm.Prev, "##0"));
+
+void imprimeMesDeAlta(const ILTFrm& frm, Informe& informe) {
+    informe.linea("Salario Base Mensual: " + frm.Bact.texto());
+    informe.linea("Número de pagas extra: " + numeroDe(frm.Extra, "##0"));
+    informe.linea("Importe de las pagas: " + frm.IExtra.texto());
+}
+
+void imprimeTiempoParcial(const ILTFrm& frm, Informe& informe) {
+    informe.linea("Suma Bases Cot. 3 últimos meses: " + frm.B12.texto());
+    informe.linea("Días efectivamente cotizados: " + numeroDe(frm.D12, "##0"));
+    informe.linea("Total de horas trabajadas al año: " + numeroDe(frm.HorasAno, "###0"));
+    informe.linea("Días de la semana que trabaja: " + frm.DSem.texto());
+}
+
+void imprimeDiasPrevios(const ILTFrm& frm, Informe& informe) {
+    informe.linea("Días pasados en IT en los 6 meses anteriores: " + numeroDe(frm.Prev, "##0"));
 }
 
 }  // namespace
@@ -232,7 +238,9 @@ void ILTFrm::ImprimeInforme(RutinasImpresion& rutinas) {
     Informe informe{rutinas, "INCAPACIDAD TEMPORAL"};
     imprimeSolicitud(*this, informe);
     imprimeBases(*this, informe);
-    imprimeDatosAdicionales(*this, informe);
+    if (Sup1.visible()) imprimeMesDeAlta(*this, informe);
+    if (Sup3.visible()) imprimeTiempoParcial(*this, informe);
+    if (Sup2.visible()) imprimeDiasPrevios(*this, informe);
     informe.separa();
     informe.tituloConclusiones();
     informe.conclusiones(textoConclusion());

@@ -1,8 +1,8 @@
 #include "benefits/mater_frm.h"
 
-#include "benefits/datos_informe.h"
-#include "benefits/declaraciones.h"
 #include "benefits/maternidad.h"
+#include "foundations/frame/datos_informe.h"
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 
@@ -44,10 +44,8 @@ MaterFrm::MaterFrm(Entorno& entorno)
       B12{nuevo(
           decimal("B12", "Suma de las bases de cotización durante el último año:", rango("0", kTope), &tp))},
       D12{nuevo(entero("D12", "Horas anuales pactadas en contrato:", rango("0", kTope), &tp, "913"))},
-      jtpcnd{nuevo({.nombre = "jtpcnd",
-                    .rotulo = "Reducción de jornada",
-                    .clase = Clase::Casilla,
-                    .alCambiar = [this](Campo& casilla) { jtp.ponVisible(casilla.marcado()); }})},
+      jtpcnd{nuevo(casilla("jtpcnd", "Reducción de jornada",
+                           [this](Campo& reduccion) { jtp.ponVisible(reduccion.marcado()); }))},
       ftp{nuevo(fechaElegida("ftp", "Fecha inicio jornada tiempo parcial:", {}, &jtp))},
       ptp{nuevo(entero("ptp", "% de jornada realizada:", rango("0", "100"), &jtp, "60"))} {}
 
@@ -66,17 +64,10 @@ void MaterFrm::AjustaRegimen() {
     Bccant.ponVisible(i != kTiempoParcial);
 }
 
-bool MaterFrm::esFechaEscrita(Campo& fecha, std::string_view mensaje) {
-    if (EsFecha(fecha.texto())) return true;
-    mensajes().ComunicaError(mensaje);
-    fecha.pideFoco();
-    return false;
-}
-
 bool MaterFrm::ValidaPantalla() {
-    return esFechaEscrita(fAlta, "La fecha de alta no es correcta") &&
-           esFechaEscrita(f1, "La fecha de inicio del descanso no es correcta") &&
-           esFechaEscrita(f2, "La fecha de final del descanso no es correcta");
+    return exigeFecha(fAlta, "La fecha de alta no es correcta") &&
+           exigeFecha(f1, "La fecha de inicio del descanso no es correcta") &&
+           exigeFecha(f2, "La fecha de final del descanso no es correcta");
 }
 
 // --- Case ---

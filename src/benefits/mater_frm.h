@@ -23,9 +23,6 @@ class MaterFrm final : public CalculadoraDe<maternidad::RegistroMaternidad, mate
     void trasCargar() override { AjustaRegimen(); }
     void calcula(Dictamen& dictamen) override;
 
-  private:
-    [[nodiscard]] bool esFechaEscrita(Campo& fecha, std::string_view mensaje);
-
   public:
     Grupo& tp;
     Grupo& jtp;

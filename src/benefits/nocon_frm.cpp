@@ -1,9 +1,8 @@
 #include "benefits/nocon_frm.h"
 
-#include "benefits/datos_informe.h"
-#include "benefits/declaraciones.h"
 #include "benefits/nocontributiva.h"
-#include "foundations/frame/informe.h"
+#include "foundations/frame/datos_informe.h"
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 
@@ -35,10 +34,8 @@ NoConFrm::NoConFrm(Entorno& entorno)
       RenBene{nuevo(decimal(
           "RenBene", "Renta ANUAL del conjunto de Beneficiarios (incluido este):", rango("0", "99999999")))},
       RGlobal{nuevo(decimal("RGlobal", "Renta Global ANUAL de la Unidad Familiar:", rango("0", "99999999")))},
-      Minusvalia{nuevo({.nombre = "Minusvalia",
-                        .rotulo = "Tiene minusvalía mayor o igual a 65%",
-                        .clase = Clase::Casilla})},
-      Convive{nuevo({.nombre = "Convive", .rotulo = "Convive con hijos o padres", .clase = Clase::Casilla})} {
+      Minusvalia{nuevo(casilla("Minusvalia", "Tiene minusvalía mayor o igual a 65%"))},
+      Convive{nuevo(casilla("Convive", "Convive con hijos o padres"))} {
     nuevo({.nombre = "Nota",
            .rotulo = "(Como integrantes de la unidad familiar se consideran el cónyuge, los abuelos, padres, "
                      "hijos, nietos y hermanos (no otros parientes)",

@@ -35,8 +35,7 @@ double acumulado(int personas) {
     return (personas - 1.0) * kPorMiembroMas + kPensionIntegra;
 }
 
-// --- The steps. Each gives true when the case goes on
-// ---------------------------------------------------------------
+// --- The steps: each gives true when the case goes on ---
 
 bool cumpleEdad(const Caso& caso, int Edad, Dictamen& d) {
     if (esMinusvalido(caso) && Edad > kMayorDeEdad && Edad < kEdadJubilacion) {
@@ -71,9 +70,13 @@ bool cumpleEstancia(const Caso& caso, int Edad, Dictamen& d) {
         d.AddConc("NO PUEDE RECIBIR PENSION.");
         return false;
     }
+    return true;
+}
+
+/// Told to everybody and tested in nobody.
+void informaDeResidenciaPrevia(Dictamen& d) {
     d.linea("Debe haber residido legalmente en España los 2 años inmediatamente");
     d.linea("anteriores a la solicitud");
-    return true;
 }
 
 double limiteDeLaUnidad(const Caso& caso, Dictamen& d) {
@@ -128,6 +131,7 @@ void CalculaNoContributiva(const RegistroNoContributiva& caso, Fecha hoy, Dictam
     const int Edad = AniosCumplidos(caso.FechaNac, hoy);
     dictamen.linea("El interesado desea solicitar una pensión no contributiva a los ", Edad, " años.");
     if (!cumpleEdad(caso, Edad, dictamen) || !cumpleEstancia(caso, Edad, dictamen)) return;
+    informaDeResidenciaPrevia(dictamen);
     const double Limite = limiteDeLaUnidad(caso, dictamen);
     if (!cabeEnElLimite(caso, Limite, dictamen)) return;
     const double porBeneficiario = Cociente(acumulado(caso.NumBenef), caso.NumBenef);

@@ -38,8 +38,7 @@ double techoNoNumerosa(double hijosDeMas) {
     return hijosDeMas * kTechoPorHijoMas + kTecho;
 }
 
-// --- Road 1: dependent children
-// -------------------------------------------------------------------------------------
+// --- Road 1: dependent children ---
 
 double techoPorHijosACargo(const Caso& caso) {
     const int T = EnteroDe(0.0 + caso.Hijos + caso.HMin3 + caso.HMin2 + caso.HMin1);
@@ -93,8 +92,7 @@ void calculaHijosACargo(const Caso& caso, Dictamen& d) {
     d.ConDerecho = true;
 }
 
-// --- Road 2: birth
-// --------------------------------------------------------------------------------------------------
+// --- Road 2: birth ---
 
 double techoPorNacimiento(int T) {
     return T < kHijosNumerosa ? techoNoNumerosa(T - 1.0) : techoNumerosa(T);

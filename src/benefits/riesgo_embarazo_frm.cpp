@@ -1,9 +1,9 @@
 #include "benefits/riesgo_embarazo_frm.h"
 
-#include "benefits/datos_informe.h"
-#include "benefits/declaraciones.h"
 #include "benefits/meses.h"
 #include "benefits/riesgo_embarazo.h"
+#include "foundations/frame/datos_informe.h"
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 
@@ -70,17 +70,10 @@ void RiesgoEmbarazo::AjustaRegimen() {
     Sup1.ponVisible(i == kOrdinario && mismoMes(FechaDe(fAlta.texto()), FechaDe(f1.texto())));
 }
 
-bool RiesgoEmbarazo::esFechaEscrita(Campo& fecha, std::string_view mensaje) {
-    if (EsFecha(fecha.texto())) return true;
-    mensajes().ComunicaError(mensaje);
-    fecha.pideFoco();
-    return false;
-}
-
 bool RiesgoEmbarazo::ValidaPantalla() {
-    return esFechaEscrita(fAlta, "La fecha de alta no es correcta") &&
-           esFechaEscrita(f1, "La fecha de inicio de la baja no es correcta") &&
-           esFechaEscrita(f2, "La fecha de final de la baja no es correcta");
+    return exigeFecha(fAlta, "La fecha de alta no es correcta") &&
+           exigeFecha(f1, "La fecha de inicio de la baja no es correcta") &&
+           exigeFecha(f2, "La fecha de final de la baja no es correcta");
 }
 
 // --- Case ---

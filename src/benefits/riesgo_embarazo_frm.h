@@ -23,9 +23,6 @@ class RiesgoEmbarazo final : public CalculadoraDe<riesgo_embarazo::RegistroRiesg
     void trasCargar() override { AjustaRegimen(); }
     void calcula(Dictamen& dictamen) override;
 
-  private:
-    [[nodiscard]] bool esFechaEscrita(Campo& fecha, std::string_view mensaje);
-
   public:
     Grupo& Sup1;
     Grupo& Sup3;

@@ -1,86 +1,43 @@
 #include "benefits/desemp_frm.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <string>
-
-#include "apoyo/entorno_falso.h"
-#include "apoyo/vista_falsa.h"
+#include "apoyo/pantalla_abierta.h"
 
 namespace orvemo {
 namespace {
 
+using pruebas::doblesEn;
+using pruebas::enterosEn;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
-/// The screen as the menu opens it, on 15-06-2005.
-class DesempFrmTest : public testing::Test {
+class DesempFrmTest : public pruebas::PantallaAbierta<DesempFrm> {
   protected:
-    DesempFrmTest() {
-        frm.ponVista(&vista);
-        frm.Inicia();
+    void rellenaCaso() {
+        rellena(
+            {{&frm.Nombre, "María Ñúñez"}, {&frm.Edad, "40"}, {&frm.Suma, "7200,50"}, {&frm.Dias, "720"}});
     }
-
-    void escribe(Campo& campo, const char* texto) {
-        ASSERT_TRUE(frm.foco(campo));
-        frm.escribe(campo, texto);
-    }
-
-    void rellena() {
-        escribe(frm.Nombre, "María Ñúñez");
-        escribe(frm.Edad, "40");
-        escribe(frm.Suma, "7200,5");
-        escribe(frm.Dias, "720");
-    }
-
-    pruebas::EntornoFalso mundo;
-    pruebas::VistaFalsa vista;
-    DesempFrm frm{mundo.entorno};
 };
 
 TEST_F(DesempFrmTest, OpensCleanOnItsDefaults) {
-    EXPECT_EQ(frm.Titulo(), "PRESTACIONES DE DESEMPLEO");
-    EXPECT_EQ(frm.Subtitulo(), "Datos del solicitante");
     EXPECT_EQ(frm.actual(), &frm.Nombre);
     EXPECT_EQ(frm.Edad.texto(), "0");
     EXPECT_EQ(frm.Fecha.texto(), "15-06-2005");
     EXPECT_EQ(frm.fIni.texto(), "15-06-2005");
-    EXPECT_FALSE(frm.Horas.visible());
-    EXPECT_FALSE(frm.Anterior.visible());
-}
-
-TEST_F(DesempFrmTest, RefusesAnAgeAndTakesTheFocusBack) {
-    ASSERT_TRUE(frm.foco(frm.Edad));
-    EXPECT_FALSE(frm.pulsa(frm.Siguiente));
-    EXPECT_THAT(mundo.mensajes.dichos,
-                ElementsAre("Error: El número no es correcto. Debe introducir un número entre 1 y 99"));
-    EXPECT_EQ(frm.actual(), &frm.Edad);
-    EXPECT_EQ(frm.PantallaActual(), 0);
-    frm.escribe(frm.Edad, "40");
-    EXPECT_TRUE(frm.pulsa(frm.Siguiente));
-    EXPECT_EQ(frm.PantallaActual(), 1);
-}
-
-TEST_F(DesempFrmTest, AnAgeNeverVisitedIsNotChecked) {
-    EXPECT_TRUE(frm.pulsa(frm.Siguiente));
-    EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
-    EXPECT_EQ(frm.textoConclusion().find("65"), std::string::npos);
+    EXPECT_THAT(aLaVista({}),
+                ElementsAre("Nombre", "Edad", "Fecha", "fIni", "Suma", "Dias", "Hijos", "Parcial"));
+    EXPECT_THAT(cabecera(),
+                ElementsAre("PRESTACIONES DE DESEMPLEO", "Prestaciones de desempleo", "desemp.nom",
+                            "Datos del solicitante", "CONCLUSIONES SOBRE PRESTACION DE DESEMPLEO"));
     EXPECT_TRUE(frm.Mal.visible());
-}
-
-TEST_F(DesempFrmTest, ReachesTheConclusionsAndComesBack) {
-    rellena();
-    ASSERT_TRUE(frm.pulsa(frm.Siguiente));
-    EXPECT_EQ(frm.Subtitulo(), "CONCLUSIONES SOBRE PRESTACION DE DESEMPLEO");
-    EXPECT_TRUE(frm.ConDerecho());
-    EXPECT_TRUE(frm.Ok.visible());
-    EXPECT_FALSE(frm.Mal.visible());
-    EXPECT_FALSE(frm.Siguiente.visible());
-    EXPECT_NE(frm.textoConclusion().find("Tiene derecho a 240 días de prestación."), std::string::npos);
     ASSERT_TRUE(frm.pulsa(frm.Anterior));
     EXPECT_EQ(frm.actual(), &frm.Nombre);
+}
+
+TEST_F(DesempFrmTest, NumbersAreHeldToTheirLimits) {
+    frm.marca(frm.Parcial, true);
+    EXPECT_THAT(limites(), ElementsAre("Edad 1 y 99", "Suma 0 y 999999", "Dias 0 y 9999", "Hijos 0 y 20",
+                                       "Horas 1 y 39"));
+    escribe(frm.Nombre, std::string(60, 'x'));
+    EXPECT_EQ(frm.Nombre.texto().size(), 50U);
 }
 
 TEST_F(DesempFrmTest, HoursShowWithPartTimeButNotWhileLoading) {
@@ -95,71 +52,26 @@ TEST_F(DesempFrmTest, HoursShowWithPartTimeButNotWhileLoading) {
 }
 
 TEST_F(DesempFrmTest, UnreadableNumbersStopTheCopyAndTheCalculationGoesOn) {
-    rellena();
-    escribe(frm.Dias, "");
-    ASSERT_TRUE(frm.foco(frm.Nombre));
-    mundo.mensajes.dichos.clear();
-    ASSERT_TRUE(frm.pulsa(frm.Siguiente));
+    rellenaCaso();
+    frm.Dias.ponTexto("");
+    EXPECT_THAT(concluye(), testing::HasSubstr("Debe haber cumplido 12 meses"));
     EXPECT_THAT(mundo.mensajes.dichos, ElementsAre("Error: Algún dato no es correcto. Revise el supuesto"));
     EXPECT_EQ(frm.caso().Edad, 40) << "what stands before the bad field was copied";
-    EXPECT_NE(frm.textoConclusion().find("Debe haber cumplido 12 meses"), std::string::npos);
     EXPECT_TRUE(frm.Mal.visible());
 }
 
-TEST_F(DesempFrmTest, ACaseLiesInTheFileByteByByte) {
-    rellena();
+TEST_F(DesempFrmTest, ACaseLiesInTheFileByteByByteAndComesBack) {
+    rellenaCaso();
     frm.marca(frm.Parcial, true);
-    escribe(frm.Horas, "20");
-    vista.alGrabar = [](GrabaSupuesto& dialogo) {
-        dialogo.ponNombre("Caso 1");
-        dialogo.BotonGrabar();
-    };
-    ASSERT_TRUE(frm.pulsa(frm.BotonGraba));
-    const std::string& bytes = mundo.almacen["desemp.nom"];
+    rellena({{&frm.Horas, "20"}, {&frm.Hijos, "3"}, {&frm.Fecha, "7/6/05"}});
+    const std::string bytes = vaYVuelve("Caso 1");
     ASSERT_EQ(bytes.size(), 297U);
-    EXPECT_EQ(bytes[0], ' ');
-    EXPECT_EQ(bytes.substr(1, 8), "Caso 1  ");
-    EXPECT_EQ(bytes.substr(81, 12),
-              "Mar\355a \321\372\361ez ");
-    const auto entero = [&](std::size_t en) {
-        std::int32_t n = 0;
-        std::memcpy(&n, &bytes[en], 4);
-        return n;
-    };
-    const auto doble = [&](std::size_t en) {
-        double x = 0;
-        std::memcpy(&x, &bytes[en], 8);
-        return x;
-    };
-    EXPECT_EQ(entero(161), 40);
-    EXPECT_EQ(doble(165), 38518) << "15-06-2005 in days since 30-12-1899";
-    EXPECT_EQ(doble(173), 38518);
-    EXPECT_EQ(doble(181), 7200.5);
-    EXPECT_EQ(entero(189), 720);
-    EXPECT_EQ(entero(193), 0);
-    EXPECT_EQ(entero(197), 20);
-    EXPECT_EQ(entero(201), 1);
+    EXPECT_EQ(bytes.substr(0, 9), " Caso 1  ");
+    EXPECT_EQ(bytes.substr(81, 12), "Mar\355a \321\372\361ez ");
+    EXPECT_THAT(enterosEn(bytes, {161, 189, 193, 197, 201}), ElementsAre(40, 720, 3, 20, 1));
+    EXPECT_THAT(doblesEn(bytes, {165, 173, 181}), ElementsAre(38510, 38518, 7200.5))
+        << "07-06-2005 and 15-06-2005 in days since 30-12-1899";
     EXPECT_EQ(bytes.substr(205), std::string(92, '\0'));
-}
-
-TEST_F(DesempFrmTest, ASavedCaseComesBackOnPanelZero) {
-    rellena();
-    frm.marca(frm.Parcial, true);
-    escribe(frm.Horas, "20");
-    vista.alGrabar = [](GrabaSupuesto& dialogo) { dialogo.BotonGrabar(); };
-    ASSERT_TRUE(frm.pulsa(frm.BotonGraba));
-    frm.marca(frm.Parcial, false);
-    ASSERT_TRUE(frm.pulsa(frm.BotonNuevo));
-    vista.alCargar = [](CargaSupuesto& dialogo) {
-        dialogo.selecciona(0);
-        dialogo.BotonCargar();
-    };
-    ASSERT_TRUE(frm.pulsa(frm.BotonCarga));
-    EXPECT_EQ(frm.NombreActual(), "María Ñúñez");
-    EXPECT_EQ(frm.Suma.texto(), "7200,50");
-    EXPECT_EQ(frm.Horas.texto(), "20");
-    EXPECT_TRUE(frm.Horas.visible()) << "the mark of the loaded case shows them";
-    EXPECT_EQ(frm.PantallaActual(), 0);
 }
 
 TEST_F(DesempFrmTest, DatesOutOfRangeShowAs1900) {
@@ -173,12 +85,13 @@ TEST_F(DesempFrmTest, DatesOutOfRangeShowAs1900) {
 }
 
 TEST_F(DesempFrmTest, PrintsWhatStandsOnTheScreen) {
-    rellena();
-    escribe(frm.Fecha, "7/6/05");
-    ASSERT_TRUE(frm.pulsa(frm.Siguiente));
-    ASSERT_TRUE(frm.pulsa(frm.BotonPrint));
+    rellenaCaso();
+    rellena(frm.Fecha, "7/6/05");
+    concluye();
+    EXPECT_TRUE(frm.Ok.visible());
+    EXPECT_FALSE(frm.Mal.visible());
     EXPECT_THAT(
-        mundo.impresora.lineas,
+        imprime(),
         ElementsAre("DESEMPLEO", "Nombre:María Ñúñez", "Edad: 40", "Fecha de solicitud: 07-jun-2005",
                     "Fecha de inicio de la situación: 15-jun-2005",
                     "Suma de cotizaciones de los últimos 180 días: 7.200,50€",

@@ -1,6 +1,6 @@
 #include "benefits/familiar_frm.h"
 
-#include "pantalla_de_baja.h"
+#include "apoyo/pantalla_abierta.h"
 
 namespace orvemo {
 namespace {
@@ -8,7 +8,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class FamiliarFrmTest : public pruebas::PantallaDeBaja<FamiliarFrm> {
+class FamiliarFrmTest : public pruebas::PantallaAbierta<FamiliarFrm> {
   protected:
     void eligeNacimiento() { frm.elige(frm.Ayuda, 1); }
 };
@@ -22,8 +22,10 @@ TEST_F(FamiliarFrmTest, TheListSaysWhichFieldsShow) {
 }
 
 TEST_F(FamiliarFrmTest, TheSubtitleFollowsTheBenefit) {
-    concluye();
-    EXPECT_EQ(frm.Subtitulo(), "CONCLUSIONES SOBRE PRESTACION POR HIJO A CARGO");
+    EXPECT_THAT(cabecera(),
+                ElementsAre("PRESTACIONES FAMILIARES NO CONTRIBUTIVAS",
+                            "Prestaciones familiares no contributivas", "Familiar.nom",
+                            "Datos del solicitante", "CONCLUSIONES SOBRE PRESTACION POR HIJO A CARGO"));
     frm.pulsa(frm.Anterior);
     eligeNacimiento();
     concluye();
@@ -31,15 +33,11 @@ TEST_F(FamiliarFrmTest, TheSubtitleFollowsTheBenefit) {
 }
 
 TEST_F(FamiliarFrmTest, AllChildrenCannotBeFewerThanThoseBorn) {
+    EXPECT_THAT(limites(), ElementsAre("Hijos 0 y 20", "HMin1 0 y 20", "HMin2 0 y 20", "HMin3 0 y 20",
+                                       "Ingresos 0 y 99999999"));
     eligeNacimiento();
-    escribe(frm.HijosParto, "0");
-    EXPECT_FALSE(frm.foco(frm.TotalHijos));
-    escribe(frm.HijosParto, "2");
-    escribe(frm.TotalHijos, "1");
-    EXPECT_FALSE(frm.foco(frm.Nombre));
-    EXPECT_THAT(mundo.mensajes.dichos,
-                ElementsAre("Error: El número no es correcto. Debe introducir un número entre 1 y 10",
-                            "Error: El número no es correcto. Debe introducir un número entre 2 y 20"));
+    rellena(frm.HijosParto, "4");
+    EXPECT_THAT(limites(), ElementsAre("HijosParto 1 y 10", "TotalHijos 4 y 20", "Ingresos2 0 y 99999999"));
 }
 
 TEST_F(FamiliarFrmTest, ABlankFieldCountsZeroInTheCalculationButIsNotSaved) {
@@ -56,41 +54,28 @@ TEST_F(FamiliarFrmTest, ABlankFieldCountsZeroInTheCalculationButIsNotSaved) {
 }
 
 TEST_F(FamiliarFrmTest, ACaseLiesInTheFileByteByByteAndComesBack) {
-    frm.Hijos.ponTexto("1");
-    frm.HMin1.ponTexto("2");
-    frm.HMin2.ponTexto("3");
-    frm.HMin3.ponTexto("4");
-    frm.Ingresos.ponTexto("1000,5");
-    frm.HijosParto.ponTexto("5");
-    frm.TotalHijos.ponTexto("6");
-    frm.Ingresos2.ponTexto("2000,25");
+    rellena(
+        {{&frm.Nombre, "Ana"}, {&frm.Hijos, "1"}, {&frm.HMin1, "2"}, {&frm.HMin2, "3"}, {&frm.HMin3, "4"}});
+    rellena(frm.Ingresos, "1000,5");
     eligeNacimiento();
-    std::string& bytes = mundo.almacen["Familiar.nom"];
-    graba("Todos");
+    rellena({{&frm.HijosParto, "5"}, {&frm.TotalHijos, "6"}, {&frm.Ingresos2, "2000,25"}});
+    std::string bytes = vaYVuelve("Todos");
     ASSERT_EQ(bytes.size(), 207U);
-    EXPECT_EQ(pruebas::enteroEn(bytes, 161), 1);
-    EXPECT_EQ(pruebas::enteroEn(bytes, 165), 2);
-    EXPECT_EQ(pruebas::enteroEn(bytes, 169), 3);
-    EXPECT_EQ(pruebas::enteroEn(bytes, 173), 4);
-    EXPECT_EQ(pruebas::dobleEn(bytes, 177), 1000.5);
+    EXPECT_THAT(pruebas::enterosEn(bytes, {161, 165, 169, 173, 197, 201}), ElementsAre(1, 2, 3, 4, 5, 6));
+    EXPECT_THAT(pruebas::doblesEn(bytes, {177, 189}), ElementsAre(1000.5, 2000.25));
     EXPECT_EQ(bytes.substr(185, 4), std::string("\1\0\0\0", 4));
-    EXPECT_EQ(pruebas::dobleEn(bytes, 189), 2000.25);
-    EXPECT_EQ(pruebas::enteroEn(bytes, 197), 5);
-    EXPECT_EQ(pruebas::enteroEn(bytes, 201), 6);
-    bytes[185] = 77;
-    frm.pulsa(frm.BotonNuevo);
-    frm.DatosCargaRegistro(1);
-    EXPECT_EQ(frm.Ayuda.indice(), 1) << "out of range is brought to the nearest";
-    EXPECT_EQ(frm.Ingresos2.texto(), "2000,25");
-    EXPECT_TRUE(frm.Ingresos2.visible());
+    for (const auto& [guardado, elegido] : {std::pair{"\xFB\xFF", 0}, {"\x4D\x01", 1}}) {
+        mundo.almacen["Familiar.nom"] = bytes.replace(185, 2, guardado);
+        frm.DatosCargaRegistro(1);
+        EXPECT_EQ(frm.Ayuda.indice(), elegido) << "out of range is brought to the nearest";
+    }
 }
 
 TEST_F(FamiliarFrmTest, PrintsTheIncomeOfTheFirstRoadOnBoth) {
     rellena(frm.Nombre, "Ana");
     rellena(frm.Hijos, "1");
     rellena(frm.Ingresos, "12345,67");
-    ASSERT_TRUE(frm.pulsa(frm.BotonPrint));
-    EXPECT_THAT(mundo.impresora.lineas,
+    EXPECT_THAT(imprime(),
                 ElementsAre("PROTECCION FAMILIAR", "Nombre:Ana", "Número de hijos: 1",
                             "Número de hijos MAYORES de 18 años con grado de minsuvalía superior a 75%: 0",
                             "Número de hijos MAYORES de 18 años con grado de minsuvalía superior a 65%: 0",
@@ -98,9 +83,7 @@ TEST_F(FamiliarFrmTest, PrintsTheIncomeOfTheFirstRoadOnBoth) {
                             "Ingresos totales anuales: 12.346", "CONCLUSIONES"));
     eligeNacimiento();
     frm.Ingresos2.ponTexto("999");
-    mundo.impresora.lineas.clear();
-    ASSERT_TRUE(frm.pulsa(frm.BotonPrint));
-    EXPECT_THAT(mundo.impresora.lineas,
+    EXPECT_THAT(imprime(),
                 ElementsAre("PROTECCION FAMILIAR", "Nombre:Ana", "Número de nacimientos habidos: 0",
                             "Nº total de hijos: 0", "Ingresos totales anuales: 12.346", "CONCLUSIONES"));
 }

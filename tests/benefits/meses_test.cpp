@@ -76,16 +76,11 @@ TEST(BaseDiaria, ByTheDayItGoesByTheMonthAndJanuaryAndAugustPartTheThree) {
 }
 
 TEST(BaseDiaria, ByTheMonthAndInSpecialSchemesItIsAThirtieth) {
-    for (int mes = 1; mes <= 12; ++mes) {
-        const Fecha f1 = FechaDMA(10, mes, 2005);
-        EXPECT_EQ(incapacidad(0, 1, f1), "434,00") << mes;
-        EXPECT_EQ(maternidad(0, 1, f1), "434,00") << mes;
-        EXPECT_EQ(riesgo(0, 1, f1), "434,00") << mes;
-        for (const int Situacion : {2, 3}) {
-            EXPECT_EQ(incapacidad(Situacion, 0, f1), "434,00") << mes;
-            EXPECT_EQ(maternidad(Situacion, 0, f1), "434,00") << mes;
-            EXPECT_EQ(riesgo(Situacion, 0, f1), "434,00") << mes;
-        }
+    const Fecha marzo = FechaDMA(10, 3, 2005);
+    for (const auto& [Situacion, DM] : {std::pair{0, 1}, {2, 0}, {3, 0}}) {
+        EXPECT_EQ(incapacidad(Situacion, DM, marzo), "434,00") << Situacion;
+        EXPECT_EQ(maternidad(Situacion, DM, marzo), "434,00") << Situacion;
+        EXPECT_EQ(riesgo(Situacion, DM, marzo), "434,00") << Situacion;
     }
 }
 

@@ -25,12 +25,12 @@ std::string primeraLinea(int edad) {
     return "El interesado desea solicitar una pensión no contributiva a los " + std::to_string(edad) +
            " años.\r\n";
 }
-constexpr const char* kCumpleEdad =
+const std::string kCumpleEdad =
     "Cumple la condición edad al ser mayor de 18 años y tener minusvalía > 65%\r\n";
-constexpr const char* kResidencia =
+const std::string kResidencia =
     "Debe haber residido legalmente en España los 2 años inmediatamente\r\n"
     "anteriores a la solicitud\r\n";
-constexpr const char* kEntera =
+const std::string kEntera =
     "La pensión a percibir será de 4.043,06 € anuales.\r\n"
     "repartidas en 14 pagas de 288,79 €.\r\n";
 
@@ -44,7 +44,7 @@ struct Supuesto {
 
 const Supuesto kSupuestos[] = {
     {"65 today, alone: the whole pension, 4043.06 in 14", 65, [](RegistroNoContributiva&) {}, true,
-     std::string{kResidencia} + kEntera},
+     kResidencia + kEntera},
     {"64: too young", 64, [](RegistroNoContributiva&) {}, false,
      "No tiene la edad mínima de 65 años para optar la pensión no contributiva.\r\n"
      "NO TIENE DERECHO A PENSIÓN\r\n"},
@@ -53,7 +53,7 @@ const Supuesto kSupuestos[] = {
          c.Minusvalia = 1;
          c.Estancia = 9;
      },
-     true, std::string{kCumpleEdad} + kResidencia + kEntera},
+     true, kCumpleEdad + kResidencia + kEntera},
     {"disabled at 17", 17, [](RegistroNoContributiva& c) { c.Minusvalia = 1; }, false,
      "Debe ser mayor de 18 años para optar a la pensión por incapacidad > 65%\r\n"
      "NO TIENE DERECHO A PENSIÓN\r\n"},
@@ -76,11 +76,11 @@ const Supuesto kSupuestos[] = {
          c.Estancia = 4;
      },
      false,
-     std::string{kCumpleEdad} + "No lleva viviendo en España el mínimo de 5 años establecido\r\n"
-                                "como requisito para personas con incapacidad.\r\n"
-                                "NO PUEDE RECIBIR PENSION."},
+     kCumpleEdad + "No lleva viviendo en España el mínimo de 5 años establecido\r\n"
+                   "como requisito para personas con incapacidad.\r\n"
+                   "NO PUEDE RECIBIR PENSION."},
     {"living with parents but counted alone: no multiplier", 65,
-     [](RegistroNoContributiva& c) { c.Convive = 1; }, true, std::string{kResidencia} + kEntera},
+     [](RegistroNoContributiva& c) { c.Convive = 1; }, true, kResidencia + kEntera},
     {"2.5 x (4043.06 + 2830.142) = 17183.005, rounded 17183.01: a cent above is too much", 65,
      [](RegistroNoContributiva& c) {
          c.NumMiembros = 2;
@@ -88,10 +88,10 @@ const Supuesto kSupuestos[] = {
          c.RGlobal = 17183.02;
      },
      false,
-     std::string{kResidencia} + "Se multiplica por 2.5 el límite máximo al convivir con hijos o padres.\r\n"
-                                "La renta global de la unidad familiar rebasa el límite de ingresos de \r\n"
-                                "la unidad económica que es de 17.183,01 €.\r\n"
-                                "POR TANTO, NO TIENE DERECHO A PENSION"},
+     kResidencia + "Se multiplica por 2.5 el límite máximo al convivir con hijos o padres.\r\n"
+                   "La renta global de la unidad familiar rebasa el límite de ingresos de \r\n"
+                   "la unidad económica que es de 17.183,01 €.\r\n"
+                   "POR TANTO, NO TIENE DERECHO A PENSION"},
     {"an income equal to the limit passes, and the pension is eaten whole", 65,
      [](RegistroNoContributiva& c) {
          c.NumMiembros = 2;
@@ -99,7 +99,7 @@ const Supuesto kSupuestos[] = {
          c.RGlobal = 17183.01;
      },
      true,
-     std::string{kResidencia} +
+     kResidencia +
          "Se multiplica por 2.5 el límite máximo al convivir con hijos o padres.\r\n"
          "La pensión bruta es de 4.043,06 €.\r\n"
          "La renta global, sumadas las pensiones no contributivas, supera el límite de 17.183,01 €.\r\n"
@@ -107,17 +107,17 @@ const Supuesto kSupuestos[] = {
          "repartidas en 14 pagas de 0,00 €.\r\n"},
     {"two and two without income: 6873.202 passes the rounded 6873.20", 65,
      [](RegistroNoContributiva& c) { c.NumMiembros = c.NumBenef = 2; }, true,
-     std::string{kResidencia} +
+     kResidencia +
          "La pensión bruta es de 3.436,60 €.\r\n"
          "La renta global, sumadas las pensiones no contributivas, supera el límite de 6.873,20 €.\r\n"
          "por lo que la pensión a percibir se reduce a 3.436,60 € anuales,\r\n"
          "repartidas en 14 pagas de 245,47 €.\r\n"},
     {"4043.06 - 3032.30 = 1010.76 rises to the minimum 1010.765, shown 1.010,77", 65,
      [](RegistroNoContributiva& c) { c.Renta = c.RenBene = c.RGlobal = 3032.30; }, true,
-     std::string{kResidencia} + "La pensión a percibir será de 1.010,77 € anuales.\r\n"
-                                "repartidas en 14 pagas de 72,20 €.\r\n"},
+     kResidencia + "La pensión a percibir será de 1.010,77 € anuales.\r\n"
+                   "repartidas en 14 pagas de 72,20 €.\r\n"},
     {"an own income above the pension", 65, [](RegistroNoContributiva& c) { c.Renta = 4100; }, false,
-     std::string{kResidencia} +
+     kResidencia +
          "La pensión que le corresponde es nula porque la renta anual del beneficiario supera la de la "
          "pensión\r\n"
          "máxima a cobrar, que es de 4043,06 €.\r\n"
@@ -129,7 +129,7 @@ const Supuesto kSupuestos[] = {
          c.RGlobal = 6873.20;
      },
      true,
-     std::string{kResidencia} +
+     kResidencia +
          "La pensión bruta es de 43,06 €.\r\n"
          "La renta global, sumadas las pensiones no contributivas, supera el límite de 6.873,20 €.\r\n"
          "por lo que la pensión a percibir se reduce a -4.000,00 € anuales,\r\n"

@@ -1,203 +1,133 @@
 #include "benefits/riesgo_embarazo_frm.h"
 
-#include "pantalla_de_baja.h"
+#include "apoyo/pantalla_abierta.h"
 
 namespace orvemo {
 namespace {
 
-using pruebas::dobleEn;
-using pruebas::enteroEn;
+using pruebas::doblesEn;
+using pruebas::enterosEn;
 using testing::ElementsAre;
-using testing::IsEmpty;
+using testing::ElementsAreArray;
 
 enum : int { kOrdinario, kTiempoParcial, kAutonomos, kAgrario };
 
-class RiesgoEmbarazoTest : public pruebas::PantallaDeBaja<RiesgoEmbarazo> {
+class RiesgoEmbarazoTest : public pruebas::PantallaAbierta<RiesgoEmbarazo> {
   protected:
     std::vector<std::string> opcionales() const {
         return aLaVista({"Nombre", "Situacion", "fAlta", "f1", "f2"});
     }
-    /// Ten days from 6 June 2005, by the month.
+    /// Ten days from 6 June 2005, by the month, in the month of joining.
     void rellenaBaja() {
-        escribe(frm.Nombre, "Begoña Ruiz");
-        rellena(frm.fAlta, "01-02-2000");
-        rellena(frm.f1, "06-06-2005");
-        rellena(frm.f2, "15-06-2005");
+        rellena({{&frm.Nombre, "Begoña Ruiz"}, {&frm.fAlta, "01-06-2005"}, {&frm.f1, "06-06-2005"}});
         frm.elige(frm.DM, 1);
-        rellena(frm.Bccant, "1240,5");
-    }
-    const std::vector<std::string>& imprime() {
-        concluye();
-        EXPECT_TRUE(frm.pulsa(frm.BotonPrint));
-        return mundo.impresora.lineas;
+        rellena(
+            {{&frm.Bccant, "1240,50"}, {&frm.Bact, "1200,75"}, {&frm.Extra, "2"}, {&frm.IExtra, "1100,50"}});
     }
 };
 
 TEST_F(RiesgoEmbarazoTest, OpensCleanOnItsDefaults) {
-    EXPECT_EQ(frm.Titulo(), "RIESGO DURANTE EL EMBARAZO");
-    EXPECT_EQ(frm.Caption(), "Riesgo durante el embarazo");
-    EXPECT_EQ(frm.Subtitulo(), "Datos del solicitante");
-    EXPECT_EQ(frm.fichero(), "RiesgoEm.nom");
     for (const Campo* fecha : {&frm.fAlta, &frm.f1, &frm.f2}) EXPECT_EQ(fecha->texto(), "15-06-2005");
     EXPECT_THAT(opcionales(), ElementsAre("Bccant", "DM", "Bact", "Extra", "IExtra"))
         << "she joined this very month";
-    ASSERT_TRUE(frm.pulsa(frm.Siguiente));
-    EXPECT_EQ(frm.Subtitulo(), "CONCLUSIONES SOBRE PRESTACIÓN POR RIESGO DURANTE EMBARAZO");
+    EXPECT_THAT(cabecera(), ElementsAre("RIESGO DURANTE EL EMBARAZO", "Riesgo durante el embarazo",
+                                        "RiesgoEm.nom", "Datos del solicitante",
+                                        "CONCLUSIONES SOBRE PRESTACIÓN POR RIESGO DURANTE EMBARAZO"));
 }
 
 TEST_F(RiesgoEmbarazoTest, SchemeAndDatesAskForTheirOwnData) {
+    const std::vector<std::string> mesDeAlta{"Bccant", "DM", "Bact", "Extra", "IExtra"};
+    EXPECT_THAT(limites(), ElementsAre("Bccant 0 y 99999999", "Bact 0 y 99999999", "Extra 0 y 9",
+                                       "IExtra 0 y 99999999"));
     frm.elige(frm.Situacion, kTiempoParcial);
     EXPECT_THAT(opcionales(), ElementsAre("DM", "B12", "D12"));
-    frm.elige(frm.Situacion, kAutonomos);
-    EXPECT_THAT(opcionales(), ElementsAre("Bccant"));
-    frm.elige(frm.Situacion, kAgrario);
-    EXPECT_THAT(opcionales(), ElementsAre("Bccant"));
+    EXPECT_THAT(limites(), ElementsAre("B12 0 y 99999999", "D12 0 y 1826"));
+    for (const int especial : {kAutonomos, kAgrario}) {
+        frm.elige(frm.Situacion, especial);
+        EXPECT_THAT(opcionales(), ElementsAre("Bccant"));
+    }
     frm.elige(frm.Situacion, kOrdinario);
-    EXPECT_THAT(opcionales(), ElementsAre("Bccant", "DM", "Bact", "Extra", "IExtra"));
-    rellena(frm.f1, "01-07-2005");
-    EXPECT_THAT(opcionales(), ElementsAre("Bccant", "DM"));
-    rellena(frm.fAlta, "31-07-2005");
-    EXPECT_THAT(opcionales(), ElementsAre("Bccant", "DM", "Bact", "Extra", "IExtra"));
-    rellena(frm.fAlta, "31-07-2004");
-    EXPECT_THAT(opcionales(), ElementsAre("Bccant", "DM")) << "the same month of another year";
+    EXPECT_THAT(opcionales(), ElementsAreArray(mesDeAlta));
+    const struct {
+        Campo& fecha;
+        const char* texto;
+        bool mismoMes;
+    } filas[] = {
+        {frm.f1, "01-07-2005", false},    {frm.fAlta, "31-07-2005", true},
+        {frm.fAlta, "31-07-2004", false},                      // the same month of another year
+        {frm.fAlta, "ayer", false},       {frm.f1, "", true},  // both unreadable: 01-01-1900
+        {frm.f1, "31-01-1900", true},     {frm.f1, "01-02-1900", false},
+    };
+    for (const auto& fila : filas) {
+        rellena(fila.fecha, fila.texto);
+        EXPECT_EQ(frm.Sup1.visible(), fila.mismoMes) << fila.fecha.def().nombre << ' ' << fila.texto;
+    }
     frm.elige(frm.Situacion, kTiempoParcial);
     ASSERT_TRUE(frm.pulsa(frm.BotonNuevo));
-    EXPECT_THAT(opcionales(), ElementsAre("Bccant", "DM", "Bact", "Extra", "IExtra")) << "a new case";
-}
-
-TEST_F(RiesgoEmbarazoTest, UnreadableDatesCountAsTheFirstOf1900) {
-    rellena(frm.fAlta, "ayer");
-    EXPECT_FALSE(frm.Sup1.visible());
-    rellena(frm.f1, "");
-    EXPECT_TRUE(frm.Sup1.visible()) << "both are 01-01-1900";
-    rellena(frm.f1, "31-01-1900");
-    EXPECT_TRUE(frm.Sup1.visible());
-    rellena(frm.f1, "01-02-1900");
-    EXPECT_FALSE(frm.Sup1.visible());
+    EXPECT_THAT(opcionales(), ElementsAreArray(mesDeAlta)) << "a new case";
 }
 
 TEST_F(RiesgoEmbarazoTest, TheTypedDatesAreTestedInTheirOrder) {
-    struct {
+    const struct {
         Campo& campo;
         const char* mensaje;
-    } const filas[] = {
+    } filas[] = {
         {frm.f2, "Error: La fecha de final de la baja no es correcta"},
         {frm.f1, "Error: La fecha de inicio de la baja no es correcta"},
         {frm.fAlta, "Error: La fecha de alta no es correcta"},
     };
     for (const auto& fila : filas) {
-        mundo.mensajes.dichos.clear();
         rellena(fila.campo, "31-02-2005");
-        EXPECT_THAT(mundo.mensajes.dichos, IsEmpty()) << "nothing is checked on leaving";
         EXPECT_TRUE(frm.pulsa(frm.Siguiente));
         EXPECT_THAT(mundo.mensajes.dichos, ElementsAre(fila.mensaje));
         EXPECT_EQ(frm.actual(), &fila.campo);
-        EXPECT_EQ(frm.PantallaActual(), 0);
+        mundo.mensajes.dichos.clear();
     }
 }
 
-TEST_F(RiesgoEmbarazoTest, TheHoursOfAContractAreThoseOfAYearAtMost) {
-    frm.elige(frm.Situacion, kTiempoParcial);
-    escribe(frm.D12, "1827");
-    EXPECT_FALSE(frm.foco(frm.Nombre));
-    EXPECT_THAT(mundo.mensajes.dichos,
-                ElementsAre("Error: El número no es correcto. Debe introducir un número entre 0 y 1826"));
-    rellena(frm.D12, "1826");
-    EXPECT_EQ(frm.actual(), &frm.Nombre);
-}
-
-TEST_F(RiesgoEmbarazoTest, ACaseLiesInTheFileByteByByte) {
+TEST_F(RiesgoEmbarazoTest, ACaseLiesInTheFileByteByByteAndComesBack) {
     rellenaBaja();
-    rellena(frm.fAlta, "01-06-2005");
-    rellena(frm.Bact, "1200,75");
-    rellena(frm.Extra, "2");
-    rellena(frm.IExtra, "1100,5");
     frm.elige(frm.Situacion, kTiempoParcial);
-    rellena(frm.D12, "913");
-    rellena(frm.B12, "3600,25");
-    const std::string& bytes = graba("Caso 1");
+    rellena({{&frm.D12, "913"}, {&frm.B12, "3600,25"}, {&frm.f2, "16-06-2005"}});
+    const std::string bytes = vaYVuelve("Caso 1");
     ASSERT_EQ(bytes.size(), 239U);
     EXPECT_EQ(bytes.substr(0, 9), " Caso 1  ");
-    EXPECT_EQ(bytes.substr(81, 13),
+    EXPECT_EQ(bytes.substr(81, 12),
               "Bego\xF1"
-              "a Ruiz  ");
-    EXPECT_EQ(enteroEn(bytes, 161), kTiempoParcial);
-    EXPECT_EQ(dobleEn(bytes, 165), 38504) << "01-06-2005";
-    EXPECT_EQ(dobleEn(bytes, 173), 1240.5);
-    EXPECT_EQ(enteroEn(bytes, 181), 1);
-    EXPECT_EQ(dobleEn(bytes, 185), 38509) << "06-06-2005";
-    EXPECT_EQ(dobleEn(bytes, 193), 38518) << "15-06-2005";
-    EXPECT_EQ(dobleEn(bytes, 201), 1200.75);
-    EXPECT_EQ(enteroEn(bytes, 209), 2);
-    EXPECT_EQ(dobleEn(bytes, 213), 1100.5);
-    EXPECT_EQ(enteroEn(bytes, 221), 913);
-    EXPECT_EQ(dobleEn(bytes, 225), 3600.25);
-    EXPECT_EQ(enteroEn(bytes, 233), 0);
+              "a Ruiz ");
+    EXPECT_THAT(enterosEn(bytes, {161, 181, 209, 221, 233}), ElementsAre(kTiempoParcial, 1, 2, 913, 0));
+    EXPECT_THAT(doblesEn(bytes, {165, 173, 185, 193, 201, 213, 225}),
+                ElementsAre(38504, 1240.5, 38509, 38519, 1200.75, 1100.5, 3600.25))
+        << "01-06-2005, 06-06-2005 and 16-06-2005 among them";
     EXPECT_EQ(bytes.substr(237), "  ");
 }
 
-TEST_F(RiesgoEmbarazoTest, ASavedCaseComesBackWithItsView) {
+TEST_F(RiesgoEmbarazoTest, TheReportTellsTheFramesOnView) {
     rellenaBaja();
-    frm.elige(frm.Situacion, kTiempoParcial);
-    rellena(frm.B12, "3600,5");
-    graba("Caso 1");
-    ASSERT_TRUE(frm.pulsa(frm.BotonNuevo));
-    frm.DatosCargaRegistro(1);
-    EXPECT_EQ(frm.NombreActual(), "Caso 1");
-    EXPECT_EQ(frm.f1.texto(), "06-06-2005");
-    EXPECT_EQ(frm.DM.texto(), "Mensual");
-    EXPECT_EQ(frm.B12.texto(), "3600,50");
-    EXPECT_EQ(frm.Extra.texto(), "0");
-    EXPECT_THAT(opcionales(), ElementsAre("DM", "B12", "D12"));
-}
-
-// --- The report ---
-
-TEST_F(RiesgoEmbarazoTest, TheReportOfAnEmployee) {
-    rellenaBaja();
+    concluye();
     EXPECT_THAT(
         imprime(),
         ElementsAre("RIESGO DURANTE EL EMBARAZO", "Nombre:Begoña Ruiz",
                     "Régimen de la Seguridad Social: R. general (contrato ordinario)",
-                    "Fecha de alta en la Seguridad Social: 01-feb-2000", "Tipo de cotización: Mensual",
+                    "Fecha de alta en la Seguridad Social: 01-jun-2005", "Tipo de cotización: Mensual",
                     "Periodo de baja: 06-jun-2005 AL 15-jun-2005",
                     "Base de cotización por C.Comunes en el mes anterior al de la baja: 1.240,50 €",
-                    "CONCLUSIONES",
+                    "Datos adicionales por ser la baja en el mes de alta en la empresa:",
+                    "Salario Base mensual: 1.200,75 €", "Nº de Pagas extra: 2 de 1.100,50 €", "CONCLUSIONES",
                     "El interesado/a desea solicitar una prestación por Riesgo durante el Embarazo.",
-                    "El trabajador cumple el requisito de afiliación y alta en la Seguridad Social,",
-                    "en el momento de producirse el hecho causante, habiendo cotizado, asimismo,",
-                    "un mínimo de 180 días, dentro de los últimos 5 años.",
-                    "Base Reguladora para la prestación:41,35 €/diarios",
-                    "El número de días de prestación es de 10", "La indemnización de 75% es de 310,10 €",
+                    "El trabajador debe justificar un mínimo de 180 días de cotización,",
+                    "dentro de los últimos 5 años.", "Base Reguladora para la prestación:46,14 €/diarios",
+                    "El número de días de prestación es de 10", "La indemnización de 75% es de 346,10 €",
                     "El pago de esta indemnización corre a cargo de la Seguridad Social."));
-}
-
-/// The data lines of a report after those that all of them have.
-std::vector<std::string> datosPropios(const std::vector<std::string>& lineas) {
-    return {lineas.begin() + 6, std::ranges::find(lineas, "CONCLUSIONES")};
-}
-
-TEST_F(RiesgoEmbarazoTest, TheReportOfTheMonthOfJoining) {
-    rellenaBaja();
-    rellena(frm.fAlta, "01-06-2005");
-    rellena(frm.Bact, "1200,5");
-    rellena(frm.Extra, "2");
-    rellena(frm.IExtra, "1100");
-    EXPECT_THAT(datosPropios(imprime()),
-                ElementsAre("Base de cotización por C.Comunes en el mes anterior al de la baja: 1.240,50 €",
-                            "Datos adicionales por ser la baja en el mes de alta en la empresa:",
-                            "Salario Base mensual: 1.200,50 €", "Nº de Pagas extra: 2 de 1.100,00 €"));
-}
-
-TEST_F(RiesgoEmbarazoTest, TheReportOfAPartTimeContractKeepsTheLineOfTheHiddenBase) {
-    rellenaBaja();
+    ASSERT_TRUE(frm.pulsa(frm.Anterior));
     frm.elige(frm.Situacion, kTiempoParcial);
-    rellena(frm.B12, "3600,5");
-    rellena(frm.D12, "1826");
-    EXPECT_THAT(datosPropios(imprime()),
+    rellena({{&frm.B12, "3600,5"}, {&frm.D12, "1826"}});
+    const auto& lineas = imprime();
+    EXPECT_THAT(std::vector(lineas.begin() + 6, std::ranges::find(lineas, "CONCLUSIONES")),
                 ElementsAre("Base de cotización por C.Comunes en el mes anterior al de la baja: 1.240,50 €",
                             "Suma Bases Cot. 3 últimos meses: 3.600,50 €",
-                            "Horas anuales pactadas en contrato: 1826"));
+                            "Horas anuales pactadas en contrato: 1826"))
+        << "with the line of the hidden base";
 }
 
 }  // namespace

@@ -7,257 +7,133 @@
 namespace orvemo::riesgo_embarazo {
 namespace {
 
-/// An employee who contributes by the month, 40 euros a day, ten days from 6 June 2005.
-RegistroRiesgo casoTipo() {
-    RegistroRiesgo caso;
-    caso.fAlta = FechaDMA(1, 2, 2000);
+using Caso = RegistroRiesgo;
+using Texto = std::string;
+
+enum : int { kOrdinario, kTiempoParcial, kAutonomo, kAgrario };
+enum : int { kDiaria, kMensual };
+
+const Fecha kHaceAnios = FechaDMA(1, 1, 1990);
+const Fecha kDiezDias = FechaDMA(15, 6, 2005);
+const Fecha kDieciseisSemanas = FechaDMA(25, 9, 2005);
+
+/// From 6 June 2005, by the month.
+Caso deBaja(int Situacion, double Bccant, Fecha fAlta = kHaceAnios, Fecha f2 = kDiezDias) {
+    Caso caso;
+    caso.Situacion = Situacion;
+    caso.fAlta = fAlta;
     caso.f1 = FechaDMA(6, 6, 2005);
-    caso.f2 = FechaDMA(15, 6, 2005);
-    caso.DM = 1;
-    caso.Bccant = 1200;
+    caso.f2 = f2;
+    caso.DM = kMensual;
+    caso.Bccant = Bccant;
     return caso;
 }
 
-/// Half the hours of a year, 40 euros a day, 371 days in the company.
-void aMediaJornada(RegistroRiesgo& c) {
-    c.Situacion = 1;
-    c.fAlta = FechaDMA(1, 6, 2004);
-    c.B12 = 3600;
-    c.D12 = 913;
+/// Joined on the first of the month of the leave: 1200 euros a month and extra pays of 1200.
+Caso enElMesDeAlta(int Situacion, int DM, int Extra) {
+    Caso caso = deBaja(Situacion, 1500, FechaDMA(1, 6, 2005));
+    caso.DM = DM;
+    caso.Bact = caso.IExtra = 1200;
+    caso.Extra = Extra;
+    return caso;
 }
 
-struct Supuesto {
-    const char* historia;
-    void (*prepara)(RegistroRiesgo&);
-    std::string conclusion;
-};
+Caso altaEnFebreroBisiesto() {
+    Caso caso = enElMesDeAlta(kOrdinario, kDiaria, 0);
+    caso.fAlta = FechaDMA(1, 2, 2004);
+    caso.f1 = FechaDMA(2, 2, 2004);
+    caso.f2 = FechaDMA(11, 2, 2004);
+    caso.Bact = 1400;
+    return caso;
+}
 
-const std::string kInicio =
-    "El interesado/a desea solicitar una prestación por Riesgo durante el Embarazo.\r\n";
-const std::string kCumple =
+/// Part time, 40 euros a day.
+Caso aTiempoParcial(Fecha fAlta, int D12, Fecha f2 = kDiezDias) {
+    Caso caso = deBaja(kTiempoParcial, 0, fAlta, f2);
+    caso.B12 = 3600;
+    caso.D12 = D12;
+    return caso;
+}
+
+const Texto kInicio = "El interesado/a desea solicitar una prestación por Riesgo durante el Embarazo.\r\n";
+const Texto kCumple =
     "El trabajador cumple el requisito de afiliación y alta en la Seguridad Social,\r\n"
     "en el momento de producirse el hecho causante, habiendo cotizado, asimismo,\r\n"
     "un mínimo de 180 días, dentro de los últimos 5 años.\r\n";
-const std::string kDebeJustificar =
+const Texto kDebeJustificar =
     "El trabajador debe justificar un mínimo de 180 días de cotización,\r\ndentro de los últimos 5 años.\r\n";
-const std::string kFin = "El pago de esta indemnización corre a cargo de la Seguridad Social.\r\n";
+const Texto kFin = "El pago de esta indemnización corre a cargo de la Seguridad Social.\r\n";
 
-void comprueba(const Supuesto& s) {
-    SCOPED_TRACE(s.historia);
-    RegistroRiesgo caso = casoTipo();
-    s.prepara(caso);
-    Dictamen dictamen;
-    dictamen.linea("what an earlier case left");
-    CalculaRiesgoEmbarazo(caso, dictamen);
-    EXPECT_EQ(dictamen.Conclusion(), s.conclusion);
-    EXPECT_TRUE(dictamen.ConDerecho) << "nobody is refused";
+Texto paga(const Texto& base, const Texto& dias, const Texto& importe) {
+    return "Base Reguladora para la prestación:" + base +
+           " €/diarios\r\nEl número de días de prestación es de " + dias +
+           "\r\nLa indemnización de 75% es de " + importe + " €\r\n" + kFin;
+}
+Texto justifica(const Texto& anuales, const Texto& dias, const Texto& cumple, const Texto& plazo) {
+    return "La trabajadora justifica " + anuales + " días de cotización al año, es decir " + dias +
+           " días desde la fecha de alta\r\n" + cumple +
+           " el mínimo de 180 días de cotización dentro de los últimos " + plazo + " días.\r\n";
+}
+Texto pagaParcial(const Texto& dias, const Texto& importe) {
+    return "Base Reguladora para la prestación:40,00 €/diarios\r\nEl número de días de prestación es de " +
+           dias + "\r\nEl importe total de la prestación de 75% de base reguladora es de " + importe +
+           " €\r\n" + kFin;
 }
 
-TEST(CalculaRiesgoEmbarazo, ThreeQuartersOfTheBaseForEveryDay) {
-    const Supuesto supuestos[] = {
-        {"ten days at 30 euros", [](RegistroRiesgo&) {},
-         kInicio + kCumple +
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 300,00 €\r\n" +
-             kFin},
-        {"112 days: this amount has no thousands mark",
-         [](RegistroRiesgo& c) { c.f2 = FechaDMA(25, 9, 2005); },
-         kInicio + kCumple +
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 112\r\n"
-             "La indemnización de 75% es de 3360,00 €\r\n" +
-             kFin},
-        {"180 days since joining are enough", [](RegistroRiesgo& c) { c.fAlta = FechaDMA(8, 12, 2004); },
-         kInicio + kCumple +
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 300,00 €\r\n" +
-             kFin},
-        {"179 are to be justified, and the amounts follow",
-         [](RegistroRiesgo& c) { c.fAlta = FechaDMA(9, 12, 2004); },
-         kInicio + kDebeJustificar +
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 300,00 €\r\n" +
-             kFin},
-        {"self-employed: the base isn't rounded, 75 % of 1000.19 / 30 is 25.00 and not 25.01",
-         [](RegistroRiesgo& c) {
-             c.Situacion = 2;
-             c.Bccant = 1000.19;
-         },
-         kInicio + kCumple +
-             "Base Reguladora para la prestación:33,34 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 250,00 €\r\n" +
-             kFin},
-        {"an employee's base is rounded: 75 % of 33.34 is 25.01",
-         [](RegistroRiesgo& c) { c.Bccant = 1000.19; },
-         kInicio + kCumple +
-             "Base Reguladora para la prestación:33,34 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 250,10 €\r\n" +
-             kFin},
-        {"it ends the day before it begins", [](RegistroRiesgo& c) { c.f2 = FechaDMA(5, 6, 2005); },
-         kInicio + kCumple +
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 0\r\n"
-             "La indemnización de 75% es de 0,00 €\r\n" +
-             kFin},
-        {"nine days before: nothing stops it", [](RegistroRiesgo& c) { c.f2 = FechaDMA(28, 5, 2005); },
-         kInicio + kCumple +
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de -8\r\n"
-             "La indemnización de 75% es de -240,00 €\r\n" +
-             kFin},
-    };
-    for (const Supuesto& s : supuestos) comprueba(s);
-}
+const struct {
+    const char* historia;
+    Caso caso;
+    Texto conclusion;  // after the first line
+} kSupuestos[] = {
+    {"ten days at 30 euros", deBaja(kOrdinario, 1200), kCumple + paga("40,00", "10", "300,00")},
+    {"112 days: this amount has no thousands mark", deBaja(kOrdinario, 1200, kHaceAnios, kDieciseisSemanas),
+     kCumple + paga("40,00", "112", "3360,00")},
+    {"180 days since joining are enough", deBaja(kOrdinario, 1200, FechaDMA(8, 12, 2004)),
+     kCumple + paga("40,00", "10", "300,00")},
+    {"179 are to be justified, and the amounts follow", deBaja(kOrdinario, 1200, FechaDMA(9, 12, 2004)),
+     kDebeJustificar + paga("40,00", "10", "300,00")},
+    {"self-employed: the base isn't rounded, 75 % of 1000.19 / 30 is 25.00", deBaja(kAutonomo, 1000.19),
+     kCumple + paga("33,34", "10", "250,00")},
+    {"an employee's base is: 75 % of 33.34 is 25.01", deBaja(kOrdinario, 1000.19),
+     kCumple + paga("33,34", "10", "250,10")},
+    {"it ends nine days before it begins: nothing stops it",
+     deBaja(kOrdinario, 1200, kHaceAnios, FechaDMA(28, 5, 2005)), kCumple + paga("40,00", "-8", "-240,00")},
 
-/// Joined on the first of the month of the leave: 1200 euros a month and two extra pays of 1200.
-void enElMesDeAlta(RegistroRiesgo& c) {
-    c.fAlta = FechaDMA(1, 6, 2005);
-    c.Bact = 1200;
-    c.Extra = 2;
-    c.IExtra = 1200;
-}
+    {"the month of joining, by the month: (1200 + 2400 / 12) / 30", enElMesDeAlta(kOrdinario, kMensual, 2),
+     kDebeJustificar + paga("46,67", "10", "350,00")},
+    {"by the day in June: (1200 + 2400 / 12.1667) / 30 = 46.58, 34.94 a day",
+     enElMesDeAlta(kOrdinario, kDiaria, 2), kDebeJustificar + paga("46,58", "10", "349,40")},
+    {"no extra pays, whatever their amount", enElMesDeAlta(kOrdinario, kMensual, 0),
+     kDebeJustificar + paga("40,00", "10", "300,00")},
+    {"February of a leap year has 28 days: 1400 / 28", altaEnFebreroBisiesto(),
+     kDebeJustificar + paga("50,00", "10", "375,00")},
+    {"a farm worker has no such month: 1500 / 30", enElMesDeAlta(kAgrario, kMensual, 2),
+     kDebeJustificar + paga("50,00", "10", "375,00")},
 
-TEST(CalculaRiesgoEmbarazo, TheMonthOfJoiningHasABaseOfItsOwn) {
-    const Supuesto supuestos[] = {
-        {"by the month: (1200 + 2400 / 12) / 30 = 46.67", enElMesDeAlta,
-         kInicio + kDebeJustificar +
-             "Base Reguladora para la prestación:46,67 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 350,00 €\r\n" +
-             kFin},
-        {"by the day in June: (1200 + 2400 / 12.1667) / 30 = 46.58, 34.94 a day",
-         [](RegistroRiesgo& c) {
-             enElMesDeAlta(c);
-             c.DM = 0;
-         },
-         kInicio + kDebeJustificar +
-             "Base Reguladora para la prestación:46,58 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 349,40 €\r\n" +
-             kFin},
-        {"no extra pays, whatever their amount",
-         [](RegistroRiesgo& c) {
-             enElMesDeAlta(c);
-             c.Extra = 0;
-         },
-         kInicio + kDebeJustificar +
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 300,00 €\r\n" +
-             kFin},
-        {"February of a leap year has 28 days: 1400 / 28 = 50",
-         [](RegistroRiesgo& c) {
-             c.DM = 0;
-             c.fAlta = FechaDMA(1, 2, 2004);
-             c.f1 = FechaDMA(2, 2, 2004);
-             c.f2 = FechaDMA(11, 2, 2004);
-             c.Bact = 1400;
-         },
-         kInicio + kDebeJustificar +
-             "Base Reguladora para la prestación:50,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 375,00 €\r\n" +
-             kFin},
-        {"a farm worker has no such month: 1200 / 30",
-         [](RegistroRiesgo& c) {
-             enElMesDeAlta(c);
-             c.Situacion = 3;
-         },
-         kInicio + kDebeJustificar +
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "La indemnización de 75% es de 300,00 €\r\n" +
-             kFin},
-    };
-    for (const Supuesto& s : supuestos) comprueba(s);
-}
+    {"part time, 371 days with the first one: 186 justified", aTiempoParcial(FechaDMA(1, 6, 2004), 913),
+     justifica("182", "186", "cumpliendo", "2738") + pagaParcial("10", "300,00")},
+    {"180 days with the first one", aTiempoParcial(FechaDMA(9, 12, 2004), 913),
+     justifica("182", "90", "cumpliendo", "2738") + pagaParcial("10", "300,00")},
+    {"179: she doesn't comply and is paid, with a thousands mark here",
+     aTiempoParcial(FechaDMA(10, 12, 2004), 913, kDieciseisSemanas),
+     justifica("182", "90", "y no cumple", "2738") + pagaParcial("112", "3.360,00")},
+    {"no hours: ten years looked at, nothing justified", aTiempoParcial(kHaceAnios, 0),
+     justifica("0", "0", "cumpliendo", "3650") + pagaParcial("10", "300,00")},
+    {"fifteen years at full hours: 1825 days count", aTiempoParcial(kHaceAnios, 1826),
+     justifica("365", "1826", "cumpliendo", "1825") + pagaParcial("10", "300,00")},
+    {"two full years of hours and one more: nothing is looked at", aTiempoParcial(kHaceAnios, 3653),
+     justifica("730", "0", "y no cumple", "0") + pagaParcial("10", "300,00")},
+};
 
-TEST(CalculaRiesgoEmbarazo, APartTimeWorkerIsToldWhatSheJustifiesAndIsPaid) {
-    const Supuesto supuestos[] = {
-        {"371 days in the company, the first one counted: 186 justified; 3600 / 90 a day", aMediaJornada,
-         kInicio +
-             "La trabajadora justifica 182 días de cotización al año, es decir 186 días desde la fecha de "
-             "alta\r\n"
-             "cumpliendo el mínimo de 180 días de cotización dentro de los últimos 2738 días.\r\n"
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "El importe total de la prestación de 75% de base reguladora es de 300,00 €\r\n" +
-             kFin},
-        {"180 days with the first one",
-         [](RegistroRiesgo& c) {
-             aMediaJornada(c);
-             c.fAlta = FechaDMA(9, 12, 2004);
-         },
-         kInicio +
-             "La trabajadora justifica 182 días de cotización al año, es decir 90 días desde la fecha de "
-             "alta\r\n"
-             "cumpliendo el mínimo de 180 días de cotización dentro de los últimos 2738 días.\r\n"
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "El importe total de la prestación de 75% de base reguladora es de 300,00 €\r\n" +
-             kFin},
-        {"179: she doesn't comply and is paid, 112 days with a thousands mark here",
-         [](RegistroRiesgo& c) {
-             aMediaJornada(c);
-             c.fAlta = FechaDMA(10, 12, 2004);
-             c.f2 = FechaDMA(25, 9, 2005);
-         },
-         kInicio +
-             "La trabajadora justifica 182 días de cotización al año, es decir 90 días desde la fecha de "
-             "alta\r\n"
-             "y no cumple el mínimo de 180 días de cotización dentro de los últimos 2738 días.\r\n"
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 112\r\n"
-             "El importe total de la prestación de 75% de base reguladora es de 3.360,00 €\r\n" +
-             kFin},
-        {"no hours: ten years looked at, nothing justified",
-         [](RegistroRiesgo& c) {
-             aMediaJornada(c);
-             c.fAlta = FechaDMA(1, 1, 1990);
-             c.D12 = 0;
-         },
-         kInicio +
-             "La trabajadora justifica 0 días de cotización al año, es decir 0 días desde la fecha de "
-             "alta\r\n"
-             "cumpliendo el mínimo de 180 días de cotización dentro de los últimos 3650 días.\r\n"
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "El importe total de la prestación de 75% de base reguladora es de 300,00 €\r\n" +
-             kFin},
-        {"fifteen years at full hours: 1825 days count",
-         [](RegistroRiesgo& c) {
-             aMediaJornada(c);
-             c.fAlta = FechaDMA(1, 1, 1990);
-             c.D12 = 1826;
-         },
-         kInicio +
-             "La trabajadora justifica 365 días de cotización al año, es decir 1826 días desde la fecha de "
-             "alta\r\n"
-             "cumpliendo el mínimo de 180 días de cotización dentro de los últimos 1825 días.\r\n"
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "El importe total de la prestación de 75% de base reguladora es de 300,00 €\r\n" +
-             kFin},
-        {"two full years of hours and one more: nothing is looked at, and she is paid",
-         [](RegistroRiesgo& c) {
-             aMediaJornada(c);
-             c.D12 = 3653;
-         },
-         kInicio +
-             "La trabajadora justifica 730 días de cotización al año, es decir 0 días desde la fecha de "
-             "alta\r\n"
-             "y no cumple el mínimo de 180 días de cotización dentro de los últimos 0 días.\r\n"
-             "Base Reguladora para la prestación:40,00 €/diarios\r\n"
-             "El número de días de prestación es de 10\r\n"
-             "El importe total de la prestación de 75% de base reguladora es de 300,00 €\r\n" +
-             kFin},
-    };
-    for (const Supuesto& s : supuestos) comprueba(s);
+TEST(CalculaRiesgoEmbarazo, TellsTheWholeStoryOfEachCaseAndRefusesNobody) {
+    for (const auto& s : kSupuestos) {
+        SCOPED_TRACE(s.historia);
+        Dictamen dictamen;
+        dictamen.linea("what an earlier case left");
+        CalculaRiesgoEmbarazo(s.caso, dictamen);
+        EXPECT_EQ(dictamen.Conclusion(), kInicio + s.conclusion);
+        EXPECT_TRUE(dictamen.ConDerecho);
+    }
 }
 
 }  // namespace

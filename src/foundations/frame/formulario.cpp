@@ -34,6 +34,13 @@ Reaccion Formulario::fechaCorrecta() {
     return [this](Campo& campo) { CompruebaFecha(campo, DatoMal, mensajes(), entorno_.reloj); };
 }
 
+bool Formulario::exigeFecha(Campo& fecha, std::string_view mensaje) {
+    if (EsFecha(fecha.texto())) return true;
+    mensajes().ComunicaError(mensaje);
+    fecha.pideFoco();
+    return false;
+}
+
 void Formulario::ponTitulos(std::string titulo, std::string caption) {
     titulo_ = std::move(titulo);
     caption_ = std::move(caption);

@@ -81,6 +81,8 @@ class Formulario {
     [[nodiscard]] Reaccion rango(std::string minimo, std::string maximo);
     /// Check on leaving: `CompruebaFecha`.
     [[nodiscard]] Reaccion fechaCorrecta();
+    /// Whether the typed field is a date; otherwise says so and asks for the focus there.
+    [[nodiscard]] bool exigeFecha(Campo& fecha, std::string_view mensaje);
     void ponTitulos(std::string titulo, std::string caption);
     void ponSubtitulo(std::string subtitulo);
     void ponNumPantallas(int n) { numPantallas_ = n; }

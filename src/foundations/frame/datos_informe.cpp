@@ -1,4 +1,4 @@
-#include "benefits/datos_informe.h"
+#include "foundations/frame/datos_informe.h"
 
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"

@@ -7,8 +7,8 @@
 
 namespace orvemo {
 
-// The kinds of field that the screens of the leave benefits are made of, so that each field takes one line
-// there. `rotulo` is the label, `alSalir` the check on leaving, `grupo` the frame that holds the field.
+// The kinds of field that the screens of the calculators are made of, so that each takes one line there.
+// `rotulo` is the label, `alSalir` the check on leaving, `grupo` the frame that holds the field.
 
 /// A line of free text.
 [[nodiscard]] DefCampo texto(std::string nombre, std::string rotulo, std::string defecto = {},
@@ -25,6 +25,9 @@ namespace orvemo {
 /// A drop-down list, its first entry in a new case.
 [[nodiscard]] DefCampo lista(std::string nombre, std::string rotulo, std::vector<std::string> opciones,
                              Reaccion alCambiar = {});
+
+/// A check box, off in a new case.
+[[nodiscard]] DefCampo casilla(std::string nombre, std::string rotulo, Reaccion alCambiar = {});
 
 /// A date picker, today in a new case.
 [[nodiscard]] DefCampo fechaElegida(std::string nombre, std::string rotulo, Reaccion alCambiar = {},

@@ -1,4 +1,4 @@
-#include "benefits/declaraciones.h"
+#include "foundations/frame/declaraciones.h"
 
 #include <utility>
 
@@ -35,6 +35,13 @@ DefCampo lista(std::string nombre, std::string rotulo, std::vector<std::string> 
             .rotulo = std::move(rotulo),
             .clase = Clase::Lista,
             .opciones = std::move(opciones),
+            .alCambiar = std::move(alCambiar)};
+}
+
+DefCampo casilla(std::string nombre, std::string rotulo, Reaccion alCambiar) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .clase = Clase::Casilla,
             .alCambiar = std::move(alCambiar)};
 }
 
