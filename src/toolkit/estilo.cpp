@@ -7,6 +7,7 @@
 #include <QStyleOption>
 #include <QStyleOptionComplex>
 #include <QToolTip>
+#include <algorithm>
 
 #include "toolkit/iconos.h"
 #include "toolkit/medidas.h"
@@ -25,6 +26,7 @@ constexpr int kSeparacionHorizontal = 120;
 constexpr int kSeparacionVertical = 90;
 constexpr int kMargen = 150;
 constexpr int kRellenoBoton = 180;
+constexpr int kBajoTitulo = 45;
 
 struct Caja {
     QColor fondo;
@@ -61,14 +63,15 @@ Caja cajaDeCampo(const QStyleOption& opcion) {
     return {fondo, tiene(opcion, QStyle::State_MouseOver) ? kColorTextoSecundario : kColorBordeControl};
 }
 
+/// One that can't be pressed looks like any other.
 bool esPrincipal(const QStyleOption& opcion, const QWidget* widget) {
+    if (!tiene(opcion, QStyle::State_Enabled)) return false;
     if (widget != nullptr && widget->property(kPropiedadPrincipal).toBool()) return true;
     const auto* boton = qstyleoption_cast<const QStyleOptionButton*>(&opcion);
     return boton != nullptr && boton->features.testFlag(QStyleOptionButton::DefaultButton);
 }
 
 Caja cajaDeBotonPrincipal(const QStyleOption& opcion) {
-    if (!tiene(opcion, QStyle::State_Enabled)) return {kColorBorde, kColorBorde};
     const bool hundido = tiene(opcion, QStyle::State_Sunken);
     const bool encima = tiene(opcion, QStyle::State_MouseOver);
     const QColor fondo = hundido ? kColorAcentoOscuro : encima ? kColorAcentoClaro : kColorAcento;
@@ -129,6 +132,31 @@ void pintaPuntaAbajo(QPainter& pincel, const QRect& sitio, bool activa) {
     pincel.restore();
 }
 
+/// The title of a group stands above its frame.
+QRect parteDeGrupo(const QStyleOptionGroupBox& grupo, QStyle::SubControl parte) {
+    const int alto = grupo.fontMetrics.height();
+    const QRect marco = grupo.rect.adjusted(0, alto + px(kBajoTitulo), 0, 0);
+    if (parte == QStyle::SC_GroupBoxLabel) return {grupo.rect.topLeft(), QSize{grupo.rect.width(), alto}};
+    return parte == QStyle::SC_GroupBoxContents ? marco.adjusted(1, 1, -1, -1) : marco;
+}
+
+void pintaGrupo(QPainter& pincel, const QStyleOptionGroupBox& grupo) {
+    pintaCaja(pincel, parteDeGrupo(grupo, QStyle::SC_GroupBoxFrame), {Qt::transparent, kColorBorde});
+    pincel.setPen(kColorAcento);
+    pincel.drawText(parteDeGrupo(grupo, QStyle::SC_GroupBoxLabel), Qt::AlignLeft | Qt::TextShowMnemonic,
+                    grupo.text);
+}
+
+/// How much larger than the ordinary the user's desktop wants letters.
+double ampliacionDeLetras() {
+    constexpr double kPuntosDelEscritorio = 11;
+    constexpr double kMaxima = 2;
+    // The style's own letters, once installed, say nothing about the desktop.
+    static const double ampliacion =
+        std::clamp(QApplication::font().pointSizeF() / kPuntosDelEscritorio, 1.0, kMaxima);
+    return ampliacion;
+}
+
 QPalette paletaClara() {
     QPalette paleta{kColorTexto, kColorBase, kColorBase, kColorBorde,  kColorBordeControl,
                     kColorTexto, kColorBase, kColorBase, kColorVentana};
@@ -165,8 +193,9 @@ void Estilo::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opcion
         case PE_Frame:
             pintaCaja(*pincel, opcion->rect, cajaDeCampo(*opcion));
             return;
-        case PE_FrameGroupBox:
-            pintaCaja(*pincel, opcion->rect, {Qt::transparent, kColorBorde});
+        case PE_FrameMenu:
+            pincel->setPen(kColorBordeControl);
+            pincel->drawRect(opcion->rect.adjusted(0, 0, -1, -1));
             return;
         case PE_IndicatorCheckBox:
             pintaCasilla(*pincel, *opcion);
@@ -197,13 +226,25 @@ void Estilo::drawControl(ControlElement elemento, const QStyleOption* opcion, QP
 void Estilo::drawComplexControl(ComplexControl control, const QStyleOptionComplex* opcion, QPainter* pincel,
                                 const QWidget* widget) const {
     const auto* lista = qstyleoption_cast<const QStyleOptionComboBox*>(opcion);
-    if (control != CC_ComboBox || lista == nullptr || lista->editable) {
+    const auto* grupo = qstyleoption_cast<const QStyleOptionGroupBox*>(opcion);
+    if (control == CC_ComboBox && lista != nullptr && !lista->editable) {
+        pintaCaja(*pincel, opcion->rect, cajaDeCampo(*opcion));
+        pintaPuntaAbajo(*pincel, subControlRect(CC_ComboBox, opcion, SC_ComboBoxArrow, widget),
+                        tiene(*opcion, State_Enabled));
+    } else if (control == CC_GroupBox && grupo != nullptr) {
+        pintaGrupo(*pincel, *grupo);
+    } else {
         QProxyStyle::drawComplexControl(control, opcion, pincel, widget);
-        return;
     }
-    pintaCaja(*pincel, opcion->rect, cajaDeCampo(*opcion));
-    pintaPuntaAbajo(*pincel, subControlRect(CC_ComboBox, opcion, SC_ComboBoxArrow, widget),
-                    tiene(*opcion, State_Enabled));
+}
+
+QRect Estilo::subControlRect(ComplexControl control, const QStyleOptionComplex* opcion, SubControl parte,
+                             const QWidget* widget) const {
+    const auto* grupo = qstyleoption_cast<const QStyleOptionGroupBox*>(opcion);
+    if (control == CC_GroupBox && grupo != nullptr) return parteDeGrupo(*grupo, parte);
+    const QRect sitio = QProxyStyle::subControlRect(control, opcion, parte, widget);
+    const bool textoDeLista = control == CC_ComboBox && parte == SC_ComboBoxEditField;
+    return textoDeLista ? sitio.adjusted(px(kRellenoCampo), 0, 0, 0) : sitio;
 }
 
 int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QWidget* widget) const {
@@ -226,6 +267,8 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QW
         case PM_LayoutRightMargin:
         case PM_LayoutBottomMargin:
             return px(kMargen);
+        case PM_MenuPanelWidth:
+            return 1;
         case PM_DefaultFrameWidth:
         case PM_ComboBoxFrameWidth:
             return qRound(grosorFoco());
@@ -238,7 +281,7 @@ QSize Estilo::sizeFromContents(ContentsType clase, const QStyleOption* opcion, c
                                const QWidget* widget) const {
     QSize talla = QProxyStyle::sizeFromContents(clase, opcion, contenido, widget);
     const int alto = qRound(opcion->fontMetrics.height() * 1.55);
-    if (clase == CT_LineEdit || clase == CT_ComboBox) talla.setHeight(qMax(talla.height(), alto));
+    if (clase == CT_LineEdit || clase == CT_ComboBox) talla.setHeight(alto);
     if (clase == CT_ItemViewItem)
         talla.setHeight(qMax(talla.height(), qRound(opcion->fontMetrics.height() * 1.35)));
     if (clase == CT_PushButton) {
@@ -283,14 +326,14 @@ QPalette Estilo::standardPalette() const {
 }
 
 void instalaEstilo(QApplication& aplicacion) {
-    const QScreen* pantalla = QGuiApplication::primaryScreen();
-    ponEscala(escalaPara(pantalla->availableSize(), pantalla->logicalDotsPerInchX()));
+    const QSize pantalla = QGuiApplication::primaryScreen()->availableSize();
+    const double ampliacion = ampliacionDeLetras();
+    ponEscala(escalaPara(pantalla, ampliacion));
     aplicacion.setStyle(new Estilo);
     aplicacion.setPalette(paletaClara());
     QFont letra{QStringLiteral("Liberation Sans")};
-    // Points grow with the user's size of letters by themselves.
-    letra.setPointSizeF(kPuntosLetra * qMin(escala(), kEscalaComoda));
-    aplicacion.setFont(letra);
+    letra.setPointSizeF(kPuntosLetra * escalaPara(pantalla, 1) * ampliacion);
+    QApplication::setFont(letra);
     QToolTip::setPalette(paletaClara());
     QToolTip::setFont(letra);
 }

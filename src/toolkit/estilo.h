@@ -20,6 +20,8 @@ class Estilo final : public QProxyStyle {
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* opcion, QPainter* pincel,
                             const QWidget* widget) const override;
+    [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* opcion,
+                                       SubControl parte, const QWidget* widget) const override;
     [[nodiscard]] int pixelMetric(PixelMetric medida, const QStyleOption* opcion,
                                   const QWidget* widget) const override;
     [[nodiscard]] QSize sizeFromContents(ContentsType clase, const QStyleOption* opcion,

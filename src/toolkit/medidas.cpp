@@ -15,7 +15,7 @@ constexpr double kAltoNecesario = 460;
 constexpr double kBarraDeTitulo = 40;
 
 constexpr double kEscalaMinima = 1;
-constexpr double kPuntosPorPulgada = 96;
+constexpr double kEscalaComoda = 1.5;
 
 double factor = kEscalaMinima;
 
@@ -25,11 +25,10 @@ double escala() {
     return factor;
 }
 
-double escalaPara(QSize pantalla, double puntosPorPulgada) {
+double escalaPara(QSize pantalla, double ampliacionDeLetras) {
     const double cabe =
         std::min(pantalla.width() / kAnchoNecesario, (pantalla.height() - kBarraDeTitulo) / kAltoNecesario);
-    const double comoda = kEscalaComoda * std::max(1.0, puntosPorPulgada / kPuntosPorPulgada);
-    return std::clamp(cabe, kEscalaMinima, comoda);
+    return std::clamp(cabe, kEscalaMinima, kEscalaComoda * ampliacionDeLetras);
 }
 
 void ponEscala(double escala) {

@@ -29,15 +29,12 @@ inline constexpr int kLadoLogo = 660;
 /// Between the edge of a text or list field and what it shows.
 inline constexpr int kRellenoCampo = 60;
 
-/// What the factor is on any large screen with letters of the ordinary size.
-inline constexpr double kEscalaComoda = 1.5;
-
 /// The one factor between the twips of a screen (15 to the pixel) and logical pixels, chosen once for the
 /// screen at hand and for the user's size of letters.
 [[nodiscard]] double escala();
 /// Chooses the factor for a screen: the whole panel fits on it with a margin, and it is neither smaller than
-/// legible nor larger than comfortable. `puntosPorPulgada` are those of the letters, 96 in the ordinary case.
-[[nodiscard]] double escalaPara(QSize pantalla, double puntosPorPulgada);
+/// legible nor larger than comfortable for letters enlarged so many times.
+[[nodiscard]] double escalaPara(QSize pantalla, double ampliacionDeLetras);
 void ponEscala(double escala);
 
 /// Logical pixels of a length in twips.

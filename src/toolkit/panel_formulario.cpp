@@ -109,6 +109,7 @@ PanelFormulario::PanelFormulario(int pantalla, Anfitrion& anfitrion) : anfitrion
         }
     }
     pila->addStretch(0);
+    igualaColumnasDeRotulos();
 }
 
 // --- Blocks
@@ -135,6 +136,7 @@ void PanelFormulario::agregaSueltos(const Filas& filas) {
     rejilla->setContentsMargins(0, 0, 0, 0);
     layout()->addWidget(marco);
     reparteEnFilas(*rejilla, filas);
+    alineadas_.push_back(rejilla);
 }
 
 void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
@@ -149,6 +151,7 @@ void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
     switch (def.disposicion) {
         case Disposicion::Filas:
             reparteEnFilas(*rejilla, filas);
+            if (!conTitulo) alineadas_.push_back(rejilla);
             break;
         case Disposicion::Tabla:
             reparteEnTabla(*rejilla, filas, def);
@@ -165,6 +168,14 @@ void PanelFormulario::refresca(const Grupo& grupo) {
     if (marco == marcos_.end()) return;
     marco->second->setVisible(grupo.visible());
     if (auto* caja = qobject_cast<QGroupBox*>(marco->second)) caja->setTitle(sinMnemonico(grupo.titulo()));
+}
+
+/// The fields of the blocks without a frame stand all in one column.
+void PanelFormulario::igualaColumnasDeRotulos() {
+    int ancho = 0;
+    for (const QGridLayout* rejilla : alineadas_)
+        ancho = std::max(ancho, rejilla->columnMinimumWidth(kColRotulo));
+    for (QGridLayout* rejilla : alineadas_) rejilla->setColumnMinimumWidth(kColRotulo, ancho);
 }
 
 // --- Ways of laying out

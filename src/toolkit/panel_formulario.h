@@ -32,6 +32,7 @@ class PanelFormulario final : public QWidget {
     [[nodiscard]] std::vector<Bloque> bloques(int pantalla) const;
     void agregaSueltos(const Filas& filas);
     void agregaGrupo(const Grupo& grupo, const Filas& filas);
+    void igualaColumnasDeRotulos();
 
     void reparteEnFilas(QGridLayout& rejilla, const Filas& filas);
     void reparteEnTabla(QGridLayout& rejilla, const Filas& filas, const DefGrupo& def);
@@ -52,6 +53,7 @@ class PanelFormulario final : public QWidget {
     Anfitrion& anfitrion_;
     std::vector<Control*> controles_;
     std::map<const Grupo*, QWidget*> marcos_;
+    std::vector<QGridLayout*> alineadas_;  ///< the grids of labels and fields without a frame
 };
 
 }  // namespace orvemo

@@ -9,6 +9,7 @@
 #include "formulario_de_prueba.h"
 #include "foundations/values/fallos.h"
 #include "shell/config_frm.h"
+#include "toolkit/medidas.h"
 #include "ventana.h"
 
 namespace orvemo::pruebas {
@@ -206,6 +207,37 @@ TEST_F(PanelesTest, NothingIsCutAndNothingScrollsOnTheUnemploymentScreen) {
             continue;
         EXPECT_LE(pagina->widget()->minimumSizeHint().width(), pagina->viewport()->width());
         EXPECT_LE(pagina->widget()->minimumSizeHint().height(), pagina->viewport()->height());
+    }
+}
+
+TEST_F(PanelesTest, LettersTwiceAsLargeScrollInsteadOfBeingCut) {
+    const QFont antes = QApplication::font();
+    QFont grande = antes;
+    grande.setPointSizeF(antes.pointSizeF() * 2);
+    QApplication::setFont(grande);
+    Ventana<DesempFrm> v{mundo.entorno, mundo.falso.almacen};
+    for (const char* campo : {"Edad", "Fecha", "fIni", "Suma", "Dias", "Hijos", "Parcial"}) {
+        v.pantalla.Edad.ponTexto("40");
+        v.tecla(Qt::Key_Tab);
+        const QWidget& widget = v.widget(campo);
+        EXPECT_EQ(v.foco(), campo);
+        EXPECT_GE(widget.height(), widget.fontMetrics().height());
+        EXPECT_GE(widget.height(), widget.minimumSizeHint().height());
+        EXPECT_FALSE(widget.visibleRegion().isEmpty()) << "scrolled into view: " << campo;
+    }
+    QApplication::setFont(antes);
+}
+
+TEST_F(PanelesTest, TheScaleFitsTheScreenAndTheLetters) {
+    struct {
+        QSize pantalla;
+        double ampliacion, escala;
+    } const casos[] = {
+        {{640, 480}, 1, 1},     {{1024, 768}, 1, 1.5},    {{1366, 728}, 1, 688 / 460.0},
+        {{1920, 1040}, 1, 1.5}, {{1920, 1040}, 1.4, 2.1}, {{800, 600}, 2, 800 / 660.0},
+    };
+    for (const auto& caso : casos) {
+        EXPECT_NEAR(escalaPara(caso.pantalla, caso.ampliacion), caso.escala, 0.001) << caso.pantalla.width();
     }
 }
 
