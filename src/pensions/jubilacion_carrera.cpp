@@ -38,6 +38,15 @@ constexpr int kTopeEdadBonificada = 65;  // years on 01-01-1967
 constexpr int kEdadSinBonificar = 20;
 constexpr double kDiasBonificadosPorAnio = 250.4;  // for each year of age over 20
 
+// Percentage of the regulatory base.
+constexpr int kAniosDePartida = 15;  // years that give the first percentage
+constexpr int kPorcentajeDePartida = 50;
+constexpr int kAniosSegundoTramo = 25;   // years from which each gives less
+constexpr int kPorAnioPrimerTramo = 3;   // percent
+constexpr int kMaximoPrimerTramo = 30;   // percent
+constexpr int kPorAnioSegundoTramo = 2;  // percent
+constexpr int kPorcentajeMaximo = 100;
+
 constexpr double kTipoOrdinario = 8;  // percent for each year short of 65
 struct TipoReducido {
     int desde, hasta;  // years of contribution
@@ -151,9 +160,9 @@ AniosPorcentaje AniosParaPorcentaje(Periodos periodos, Fecha fechaNac, Regimen r
 }
 
 double PorcentajeSobreBase(int anios) {
-    const int hasta25 = Menor(3 * (anios - 15), 30);
-    const int desde25 = 2 * Mayor(anios - 25, 0);
-    return Redondeado(Menor(100, 50 + hasta25 + desde25), 2);
+    const int primerTramo = Menor(kPorAnioPrimerTramo * (anios - kAniosDePartida), kMaximoPrimerTramo);
+    const int segundoTramo = kPorAnioSegundoTramo * Mayor(anios - kAniosSegundoTramo, 0);
+    return Redondeado(Menor(kPorcentajeMaximo, kPorcentajeDePartida + primerTramo + segundoTramo), 2);
 }
 
 Coeficiente CoeficienteReductor(int edad, int anios, bool antesDe1967, bool voluntario) {

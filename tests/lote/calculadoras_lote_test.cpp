@@ -11,6 +11,7 @@ TEST(CalculadorasLote, EachNameOpensItsOwn) {
     struct {
         const char *nombre, *titulo;
     } const filas[] = {
+        {"jubilacion", "PENSIONES DE JUBILACIÓN"},
         {"desempleo", "PRESTACIONES DE DESEMPLEO"},
         {"it", "INCAPACIDAD TEMPORAL"},
         {"maternidad", "PRESTACION POR MATERNIDAD"},
