@@ -80,6 +80,22 @@ class PantallaAbierta : public testing::Test {
         return todos;
     }
 
+    /// Makes these dates bad, the last one first: `Siguiente` tells each before those that were bad already
+    /// and takes the focus there; nothing is said on leaving them. They end as 25-09-2005.
+    void compruebaFechas(std::vector<std::pair<Campo*, const char*>> fechas, const char* mala) {
+        std::ranges::reverse(fechas);
+        for (const auto& [fecha, mensaje] : fechas) {
+            rellena(*fecha, mala);
+            EXPECT_THAT(mundo.mensajes.dichos, testing::IsEmpty());
+            EXPECT_TRUE(frm.pulsa(frm.Siguiente));
+            EXPECT_THAT(mundo.mensajes.dichos, testing::ElementsAre(mensaje));
+            EXPECT_EQ(frm.actual(), fecha);
+            EXPECT_EQ(frm.PantallaActual(), 0);
+            mundo.mensajes.dichos.clear();
+        }
+        for (const auto& [fecha, mensaje] : fechas) rellena(*fecha, "25/9/05");
+    }
+
     /// What the file of cases holds after the case was saved under that name.
     const std::string& graba(const char* nombre) {
         vista.alGrabar = [nombre](GrabaSupuesto& dialogo) {

@@ -74,16 +74,6 @@ TEST_F(DesempFrmTest, ACaseLiesInTheFileByteByByteAndComesBack) {
     EXPECT_EQ(bytes.substr(205), std::string(92, '\0'));
 }
 
-TEST_F(DesempFrmTest, DatesOutOfRangeShowAs1900) {
-    std::string bytes(297, '\0');
-    const double loca = 1e300;
-    std::memcpy(&bytes[165], &loca, 8);
-    mundo.almacen["desemp.nom"] = bytes;
-    frm.DatosCargaRegistro(1);
-    EXPECT_EQ(frm.Fecha.texto(), "01-01-1900");
-    EXPECT_EQ(frm.fIni.texto(), "30-12-1899") << "a date never written is day 0";
-}
-
 TEST_F(DesempFrmTest, PrintsWhatStandsOnTheScreen) {
     rellenaCaso();
     rellena(frm.Fecha, "7/6/05");

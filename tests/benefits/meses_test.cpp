@@ -1,7 +1,9 @@
 // The daily base of the three leave benefits, side by side, by the month in which the leave begins. A monthly
 // base of 13,020 euros is 465 a day over 28 days, 434 over 30 and 420 over 31.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 
 #include "benefits/incapacidad_temporal.h"
@@ -32,55 +34,46 @@ Registro caso(int Situacion, int DM, Fecha f1) {
     return caso;
 }
 
-std::string incapacidad(int Situacion, int DM, Fecha f1) {
-    auto c = caso<incapacidad_temporal::RegistroIncapacidad>(Situacion, DM, f1);
-    Dictamen dictamen;
-    incapacidad_temporal::CalculaIncapacidad(c, {}, dictamen);
-    return baseEn(dictamen);
-}
-
-std::string maternidad(int Situacion, int DM, Fecha f1) {
-    Dictamen dictamen;
-    maternidad::CalculaMaternidad(caso<maternidad::RegistroMaternidad>(Situacion, DM, f1), {}, dictamen);
-    return baseEn(dictamen);
-}
-
-std::string riesgo(int Situacion, int DM, Fecha f1) {
-    Dictamen dictamen;
-    riesgo_embarazo::CalculaRiesgoEmbarazo(caso<riesgo_embarazo::RegistroRiesgo>(Situacion, DM, f1),
-                                           dictamen);
-    return baseEn(dictamen);
+/// Of the temporary incapacity, the maternity and the pregnancy risk.
+std::array<std::string, 3> bases(int Situacion, int DM, Fecha f1) {
+    Dictamen incapacidad, descanso, riesgo;
+    auto baja = caso<incapacidad_temporal::RegistroIncapacidad>(Situacion, DM, f1);
+    incapacidad_temporal::CalculaIncapacidad(baja, {}, incapacidad);
+    maternidad::CalculaMaternidad(caso<maternidad::RegistroMaternidad>(Situacion, DM, f1), {}, descanso);
+    riesgo_embarazo::CalculaRiesgoEmbarazo(caso<riesgo_embarazo::RegistroRiesgo>(Situacion, DM, f1), riesgo);
+    return {baseEn(incapacidad), baseEn(descanso), baseEn(riesgo)};
 }
 
 TEST(BaseDiaria, ByTheDayItGoesByTheMonthAndJanuaryAndAugustPartTheThree) {
-    struct {
-        const char* mes;
-        const char *incapacidad, *maternidad, *riesgo;
-    } const filas[] = {
-        {"enero", "434,00", "420,00", "434,00"},      {"febrero", "420,00", "420,00", "420,00"},
-        {"marzo", "465,00", "465,00", "465,00"},      {"abril", "420,00", "420,00", "420,00"},
-        {"mayo", "434,00", "434,00", "434,00"},       {"junio", "420,00", "420,00", "420,00"},
-        {"julio", "434,00", "434,00", "434,00"},      {"agosto", "434,00", "420,00", "434,00"},
-        {"septiembre", "420,00", "420,00", "420,00"}, {"octubre", "434,00", "434,00", "434,00"},
-        {"noviembre", "420,00", "420,00", "420,00"},  {"diciembre", "434,00", "434,00", "434,00"},
+    // clang-format off
+    const std::array filas{
+        //         sick leave, maternity, risk
+        std::array{"434,00", "420,00", "434,00"},  // January
+        std::array{"420,00", "420,00", "420,00"},
+        std::array{"465,00", "465,00", "465,00"},
+        std::array{"420,00", "420,00", "420,00"},
+        std::array{"434,00", "434,00", "434,00"},
+        std::array{"420,00", "420,00", "420,00"},
+        std::array{"434,00", "434,00", "434,00"},
+        std::array{"434,00", "420,00", "434,00"},  // August
+        std::array{"420,00", "420,00", "420,00"},
+        std::array{"434,00", "434,00", "434,00"},
+        std::array{"420,00", "420,00", "420,00"},
+        std::array{"434,00", "434,00", "434,00"},
     };
+    // clang-format on
     for (const int anio : {2004, 2005}) {  // a leap year is no different
-        int mes = 0;
-        for (const auto& fila : filas) {
-            const Fecha f1 = FechaDMA(10, ++mes, anio);
-            EXPECT_EQ(incapacidad(0, 0, f1), fila.incapacidad) << fila.mes << ' ' << anio;
-            EXPECT_EQ(maternidad(0, 0, f1), fila.maternidad) << fila.mes << ' ' << anio;
-            EXPECT_EQ(riesgo(0, 0, f1), fila.riesgo) << fila.mes << ' ' << anio;
+        for (int mes = 1; mes <= 12; ++mes) {
+            EXPECT_THAT(bases(0, 0, FechaDMA(10, mes, anio)),
+                        testing::ElementsAreArray(filas[static_cast<std::size_t>(mes - 1)]))
+                << mes << ' ' << anio;
         }
     }
 }
 
 TEST(BaseDiaria, ByTheMonthAndInSpecialSchemesItIsAThirtieth) {
-    const Fecha marzo = FechaDMA(10, 3, 2005);
     for (const auto& [Situacion, DM] : {std::pair{0, 1}, {2, 0}, {3, 0}}) {
-        EXPECT_EQ(incapacidad(Situacion, DM, marzo), "434,00") << Situacion;
-        EXPECT_EQ(maternidad(Situacion, DM, marzo), "434,00") << Situacion;
-        EXPECT_EQ(riesgo(Situacion, DM, marzo), "434,00") << Situacion;
+        EXPECT_THAT(bases(Situacion, DM, FechaDMA(10, 3, 2005)), testing::Each("434,00")) << Situacion;
     }
 }
 

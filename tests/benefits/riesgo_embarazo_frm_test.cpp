@@ -68,21 +68,10 @@ TEST_F(RiesgoEmbarazoTest, SchemeAndDatesAskForTheirOwnData) {
 }
 
 TEST_F(RiesgoEmbarazoTest, TheTypedDatesAreTestedInTheirOrder) {
-    const struct {
-        Campo& campo;
-        const char* mensaje;
-    } filas[] = {
-        {frm.f2, "Error: La fecha de final de la baja no es correcta"},
-        {frm.f1, "Error: La fecha de inicio de la baja no es correcta"},
-        {frm.fAlta, "Error: La fecha de alta no es correcta"},
-    };
-    for (const auto& fila : filas) {
-        rellena(fila.campo, "31-02-2005");
-        EXPECT_TRUE(frm.pulsa(frm.Siguiente));
-        EXPECT_THAT(mundo.mensajes.dichos, ElementsAre(fila.mensaje));
-        EXPECT_EQ(frm.actual(), &fila.campo);
-        mundo.mensajes.dichos.clear();
-    }
+    compruebaFechas({{&frm.fAlta, "Error: La fecha de alta no es correcta"},
+                     {&frm.f1, "Error: La fecha de inicio de la baja no es correcta"},
+                     {&frm.f2, "Error: La fecha de final de la baja no es correcta"}},
+                    "31-02-2005");
 }
 
 TEST_F(RiesgoEmbarazoTest, ACaseLiesInTheFileByteByByteAndComesBack) {
