@@ -26,6 +26,7 @@ constexpr int kSeparacionHorizontal = 120;
 constexpr int kSeparacionVertical = 90;
 constexpr int kMargen = 150;
 constexpr int kRellenoBoton = 180;
+constexpr int kHuecoIcono = 75;
 constexpr int kBajoTitulo = 45;
 
 struct Caja {
@@ -95,6 +96,25 @@ Caja cajaDeBotonPlano(const QStyleOption& opcion) {
     if (opcion.state & (QStyle::State_Sunken | QStyle::State_On)) caja.fondo = kColorAcentoPalido;
     if (conFoco(opcion)) caja = {caja.fondo, kColorAcento, grosorFoco()};
     return caja;
+}
+
+/// Icon and caption, in the middle together.
+void pintaRotulo(QPainter& pincel, const QStyleOptionButton& boton, bool principal) {
+    const bool activo = tiene(boton, QStyle::State_Enabled);
+    const QSize icono = boton.icon.isNull() ? QSize{} : boton.iconSize;
+    const QSize texto = boton.fontMetrics.size(Qt::TextShowMnemonic, boton.text);
+    const int ancho = texto.width() + (boton.icon.isNull() ? 0 : icono.width() + px(kHuecoIcono));
+    const QRect todo =
+        QStyle::alignedRect(boton.direction, Qt::AlignCenter, {ancho, boton.rect.height()}, boton.rect);
+    const auto parte = [&](Qt::Alignment lado, const QSize& talla) {
+        return QStyle::alignedRect(boton.direction, lado | Qt::AlignVCenter, talla, todo);
+    };
+    if (!boton.icon.isNull()) {
+        boton.icon.paint(&pincel, parte(Qt::AlignLeft, icono), Qt::AlignCenter,
+                         activo ? QIcon::Normal : QIcon::Disabled);
+    }
+    pincel.setPen(principal ? kColorBase : boton.palette.color(QPalette::ButtonText));
+    pincel.drawText(parte(Qt::AlignRight, texto), Qt::AlignCenter | Qt::TextShowMnemonic, boton.text);
 }
 
 void pintaFoco(QPainter& pincel, const QRect& sitio) {
@@ -214,10 +234,8 @@ void Estilo::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opcion
 void Estilo::drawControl(ControlElement elemento, const QStyleOption* opcion, QPainter* pincel,
                          const QWidget* widget) const {
     const auto* boton = qstyleoption_cast<const QStyleOptionButton*>(opcion);
-    if (elemento == CE_PushButtonLabel && boton != nullptr && esPrincipal(*opcion, widget)) {
-        QStyleOptionButton claro{*boton};
-        claro.palette.setColor(QPalette::ButtonText, kColorBase);
-        QProxyStyle::drawControl(elemento, &claro, pincel, widget);
+    if (elemento == CE_PushButtonLabel && boton != nullptr) {
+        pintaRotulo(*pincel, *boton, esPrincipal(*opcion, widget));
         return;
     }
     QProxyStyle::drawControl(elemento, opcion, pincel, widget);
@@ -326,7 +344,10 @@ QPalette Estilo::standardPalette() const {
 }
 
 void instalaEstilo(QApplication& aplicacion) {
-    const QSize pantalla = QGuiApplication::primaryScreen()->availableSize();
+    instalaEstilo(aplicacion, QGuiApplication::primaryScreen()->availableSize());
+}
+
+void instalaEstilo(QApplication& aplicacion, QSize pantalla) {
     const double ampliacion = ampliacionDeLetras();
     ponEscala(escalaPara(pantalla, ampliacion));
     aplicacion.setStyle(new Estilo);

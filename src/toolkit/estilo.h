@@ -35,5 +35,7 @@ class Estilo final : public QProxyStyle {
 
 /// Gives the application its style, palette, letters and scale, all by the screen at hand.
 void instalaEstilo(QApplication& aplicacion);
+/// The same for a screen of this size, in logical pixels.
+void instalaEstilo(QApplication& aplicacion, QSize pantalla);
 
 }  // namespace orvemo

@@ -1,0 +1,185 @@
+// Takes the pictures of the documentation: capturas DATA_DIRECTORY PICTURE_DIRECTORY SUFFIX
+//
+// The program runs as ever, on one fixed day and a screen of one size, but nobody sees it: its windows are
+// painted into files. It writes cases into the data directory, and the printed report, informe.pdf, beside
+// the pictures.
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QTimer>
+#include <cstdio>
+#include <exception>
+#include <functional>
+#include <vector>
+
+#include "shell/calculadoras.h"
+#include "shell/programa.h"
+#include "toolkit/aplicacion.h"
+#include "toolkit/estilo.h"
+#include "toolkit/impresora_pdf.h"
+#include "toolkit/medidas.h"
+#include "toolkit/mensajes_qt.h"
+#include "toolkit/textos_qt.h"
+#include "toolkit/vista_menu.h"
+
+namespace {
+
+using namespace orvemo;
+
+constexpr int kUsoIncorrecto = 2;
+constexpr QSize kPantalla{1366, 768};
+constexpr int kDesempleo = 5;           // option of the menu
+constexpr int kPaso = 80;               // milliseconds, for the windows to settle
+constexpr QColor kVelo{0, 0, 0, 0x30};  // over the window behind a dialog
+
+/// The day on which the pictures are taken.
+class RelojDeCapturas final : public Reloj {
+  public:
+    [[nodiscard]] Fecha hoy() const override { return FechaDMA(15, 6, 2005); }
+};
+
+/// Writes the menu at once: the cover's second makes no picture.
+class MenuSinPortada final : public VistaPrograma {
+  public:
+    explicit MenuSinPortada(VistaMenu& menu) : menu_{menu} {}
+    void muestraPortada(const std::string&, std::chrono::milliseconds) override {}
+    void cargaMenuFoto(const std::string& foto) override { menu_.cargaMenuFoto(foto); }
+    Imagen cargaLogoOrvemo(const std::string& foto) override { return menu_.cargaLogoOrvemo(foto); }
+    void centraMenu() override { menu_.centraMenu(); }
+    void ponCaption(const std::string& caption) override { menu_.ponCaption(caption); }
+    void cursorEspera(bool espera) override { menu_.cursorEspera(espera); }
+    void muestraModal(Formulario& pantalla, bool sobre) override { menu_.muestraModal(pantalla, sobre); }
+    void descarga() override { menu_.descarga(); }
+
+  private:
+    VistaMenu& menu_;
+};
+
+QWidget& ventana() {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal == nullptr) throw std::runtime_error{"no window is open"};
+    return *modal;
+}
+
+void pulsa(const char* boton) {
+    auto* encontrado = ventana().findChild<QAbstractButton*>(QLatin1String{boton});
+    if (encontrado == nullptr) throw std::runtime_error{std::string{"there is no button "} + boton};
+    encontrado->click();
+}
+
+void teclea(Qt::Key tecla) {
+    QKeyEvent pulsada{QEvent::KeyPress, tecla, Qt::NoModifier};
+    QApplication::sendEvent(ventana().focusWidget(), &pulsada);
+}
+
+/// A window as it is, or a dialog over the window behind it.
+QPixmap pintada(QWidget& modal, bool dialogo) {
+    if (!dialogo) return modal.grab();
+    QPixmap lienzo = modal.parentWidget()->window()->grab();
+    const QPixmap encima = modal.grab();
+    QPainter pincel{&lienzo};
+    const QSizeF fondo = lienzo.deviceIndependentSize();
+    const QSizeF talla = encima.deviceIndependentSize();
+    pincel.fillRect(QRectF{{0, 0}, fondo}, kVelo);
+    const QRectF sitio{{(fondo.width() - talla.width()) / 2, (fondo.height() - talla.height()) / 2}, talla};
+    pincel.drawPixmap(sitio.topLeft(), encima);
+    pincel.setPen(kColorBordeControl);
+    pincel.drawRect(sitio);
+    return lienzo;
+}
+
+class Sesion {
+  public:
+    Sesion(VistaMenu& menu, Programa& programa, QString carpeta, QString sufijo)
+        : menu_{menu}, programa_{programa}, carpeta_{std::move(carpeta)}, sufijo_{std::move(sufijo)} {}
+
+    /// Goes through the program step by step; each begins once the windows of the one before have settled.
+    void sigue(std::size_t paso = 0) {
+        if (paso == pasos_.size()) return;
+        QTimer::singleShot(kPaso, &menu_, [this, paso] {
+            sigue(paso + 1);  // a step may open a window and come back only when that closes
+            pasos_[paso]();
+        });
+    }
+
+  private:
+    void captura(const char* nombre, const QPixmap& imagen) const {
+        const QString fichero =
+            carpeta_ + QLatin1Char('/') + QLatin1String{nombre} + sufijo_ + QStringLiteral(".png");
+        if (!imagen.save(fichero)) throw std::runtime_error{"cannot write " + deQt(fichero)};
+    }
+
+    VistaMenu& menu_;
+    Programa& programa_;
+    QString carpeta_;
+    QString sufijo_;
+    std::vector<std::function<void()>> pasos_{
+        [this] { captura("menu", menu_.grab()); },
+        [this] { programa_.Opcion(kDesempleo); },
+        [] { pulsa("BotonCarga"); },
+        [] { teclea(Qt::Key_Down); },
+        [this] { captura("cargar", pintada(ventana(), true)); },
+        [] { teclea(Qt::Key_Return); },
+        [this] { captura("desempleo-datos", pintada(ventana(), false)); },
+        [] { pulsa("Siguiente"); },
+        [this] { captura("desempleo-conclusiones", pintada(ventana(), false)); },
+        [] { pulsa("BotonGraba"); },
+        [this] { captura("grabar", pintada(ventana(), true)); },
+        [] { pulsa("BotonCancelar"); },
+        [] { pulsa("BotonPrint"); },
+        [] { pulsa("BotonExit"); },
+        [] { QApplication::quit(); },
+    };
+};
+
+/// Messages would wait for ever for an answer.
+class MensajesEnTerminal final : public Mensajes {
+  public:
+    bool Confirma(std::string_view texto) override { return dice(texto); }
+    void Informa(std::string_view texto) override { dice(texto); }
+    void ComunicaError(std::string_view texto) override { dice(texto); }
+
+  private:
+    static bool dice(std::string_view texto) {
+        std::printf("%.*s\n", static_cast<int>(texto.size()), texto.data());
+        return true;
+    }
+};
+
+int ejecuta(Aplicacion& aplicacion, Mensajes& mensajes, const QStringList& argumentos) {
+    instalaEstilo(aplicacion, kPantalla);
+    DirectorioAplicacion almacen{deQt(argumentos[1])};
+    const RelojDeCapturas reloj;
+    ImpresoraPdf impresora{almacen, deQt(argumentos[2] + QStringLiteral("/informe.pdf"))};
+    RutinasImpresion rutinas;
+    ValoresPrograma valores;
+    Entorno entorno{mensajes, reloj, almacen, impresora, rutinas, valores};
+    VistaMenu menu{almacen};
+    MenuSinPortada vista{menu};
+    Programa programa{entorno, PantallasDisponibles(), vista};
+    programa.Inicia();
+    menu.muestra(programa);
+    Sesion sesion{menu, programa, argumentos[2], argumentos.value(3)};
+    sesion.sigue();
+    return aplicacion.exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    MensajesEnTerminal mensajes;
+    Aplicacion aplicacion{argc, argv, mensajes};
+    const QStringList argumentos = QApplication::arguments();
+    if (argumentos.size() < 3) {
+        std::fputs("capturas DATA_DIRECTORY PICTURE_DIRECTORY [SUFFIX]\n", stderr);
+        return kUsoIncorrecto;
+    }
+    try {
+        return ejecuta(aplicacion, mensajes, argumentos);
+    } catch (const std::exception& fallo) {
+        std::fprintf(stderr, "capturas: %s\n", fallo.what());
+        return 1;
+    }
+}
