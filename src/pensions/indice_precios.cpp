@@ -57,7 +57,7 @@ double leeMes(Lineas& lineas) {
     try {
         return LeeNumeroRegional(indice);
     } catch (const TextoIlegible&) {
-        falla(lineas.numero(), "\"" + indice + "\" no es un índice de precios");
+        falla(lineas.numero(), "\"" + De1252(indice) + "\" no es un índice de precios");
     }
 }
 

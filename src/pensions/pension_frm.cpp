@@ -58,7 +58,6 @@ PensionFrm::PensionFrm(Entorno& entorno)
                         .rotulo = "% Reducción de Jornada:",
                         .defecto = "0",
                         .filtro = TeclaNumero,
-                        .alSalir = rango("0", "100"),
                         .visible = false})},
       JubiConyuge{
           nuevo({.nombre = "JubiConyuge", .rotulo = "Tiene cónyuge que mantener", .clase = Clase::Casilla})},

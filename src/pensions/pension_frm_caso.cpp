@@ -8,7 +8,7 @@ namespace {
 
 using jubilacion::kLineasGuardadas;
 
-constexpr const char* kTextoFecha = "dd-MM-yyyy";
+constexpr const char* kTextoFecha = "dd-mm-yyyy";
 
 std::uint8_t unoSi(const Campo& casilla) {
     return casilla.marcado() ? 1 : 0;

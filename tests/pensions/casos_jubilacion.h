@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "foundations/values/formatos.h"
-#include "pensions/jubilacion_registro.h"
+#include "pensions/jubilacion_carrera.h"
 #include "pensions/tablas_pensiones.h"
 
 namespace orvemo::pruebas {
@@ -18,6 +18,10 @@ inline void ponFechas(jubilacion::RegistroJubilacion& caso, std::string_view nac
                       std::string_view jubilacion) {
     caso.JubiFechaNac = LeeFecha(nacimiento);
     caso.JubiFechaJub = LeeFecha(jubilacion);
+}
+
+inline void ponRegimen(jubilacion::RegistroJubilacion& caso, jubilacion::Regimen regimen) {
+    caso.JubiRegimen = static_cast<std::uint8_t>(static_cast<int>(regimen) - 1);
 }
 
 /// A person of the general scheme who is 65 on 15-06-2005, contributed from 1970 to the month before and
