@@ -11,15 +11,13 @@ PAQUETES_CLANG=(clang-14 clang clang-tidy-14 clang-format-14 libclang-rt-14-dev)
 
 avisa() { printf '>> %s\n' "$*" >&2; }
 
+# With sudo only where it isn't root already.
 como_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
-    elif command -v sudo >/dev/null; then
+    else
         avisa "sudo $*"
         sudo "$@"
-    else
-        avisa "This needs root and there is no sudo. As root, run: $*"
-        return 1
     fi
 }
 
@@ -38,8 +36,13 @@ instala_paquetes() {
     local faltan
     mapfile -t faltan < <(paquetes_que_faltan "$@")
     [ ${#faltan[@]} -gt 0 ] || return 0
+    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
+        avisa "Missing, and there is no sudo to install it. As root, run: apt-get install ${faltan[*]}"
+        return 1
+    fi
     avisa "Installing with apt: ${faltan[*]}"
-    como_root apt-get -q update || avisa "The package lists could not be refreshed; trying with those at hand."
+    # Lists that can't be refreshed may still name the packages.
+    como_root apt-get -q update || true
     como_root env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=300 install \
         --yes --no-install-recommends "${faltan[@]}"
 }
