@@ -40,6 +40,7 @@ void hazPrincipal(QPushButton& boton, Dibujo dibujo) {
 
 std::vector<std::string> nombres(const std::vector<EntradaSupuesto>& entradas) {
     std::vector<std::string> lista;
+    lista.reserve(entradas.size());
     for (const EntradaSupuesto& entrada : entradas) lista.push_back(entrada.nombre);
     return lista;
 }

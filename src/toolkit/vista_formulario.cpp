@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QStackedWidget>
-#include <ranges>
 #include <utility>
 
 #include "toolkit/controles.h"
@@ -166,7 +165,7 @@ void VistaFormulario::encadenaTabulador() {
         if (anterior != nullptr) setTabOrder(anterior, &widget);
         anterior = &widget;
     };
-    for (const PanelFormulario* panel : paneles_ | std::views::values) {
+    for (const auto& [pantalla, panel] : paneles_) {
         for (Control* control : panel->controles()) sigue(control->widget());
     }
     for (const int pantalla : {kPie, kBarra}) {
@@ -192,7 +191,7 @@ void VistaFormulario::refresca(const Campo& campo) {
 }
 
 void VistaFormulario::refresca(const Grupo& grupo) {
-    for (PanelFormulario* panel : paneles_ | std::views::values) panel->refresca(grupo);
+    for (const auto& [pantalla, panel] : paneles_) panel->refresca(grupo);
 }
 
 void VistaFormulario::refrescaTitulos() {
