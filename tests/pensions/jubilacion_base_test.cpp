@@ -11,53 +11,49 @@ namespace {
 using pruebas::casoTipo;
 using pruebas::ponFechas;
 using pruebas::ponPeriodo;
+using pruebas::ponRegimen;
 using pruebas::tablasPlanas;
 
 TEST(FechaReferencia, FollowsTheLastContributionOfTheGeneralScheme) {
     struct Caso {
         const char* historia;
-        Regimen regimen;
         UltimosDias dias;
         const char* referencia;
+        const char* jubilacion = "15-06-2005";
+        Regimen regimen = Regimen::General;
     };
-    // Retirement on 15-06-2005.
     const Caso casos[] = {
-        {"no period", Regimen::General, {}, "15-06-2005"},
-        {"within the month", Regimen::General, {"12-06-2005"}, "12-06-2005"},
-        {"the end of a month gives the first of the next", Regimen::General, {"31-05-2005"}, "01-06-2005"},
-        {"the latest counts, wherever it stands",
-         Regimen::General,
-         {"20-04-2005", "", "31-12-2004"},
-         "20-04-2005"},
-        {"90 days before", Regimen::General, {"17-03-2005"}, "17-03-2005"},
-        {"91 days before", Regimen::General, {"16-03-2005"}, "15-06-2005"},
-        {"90 days after", Regimen::General, {"13-09-2005"}, "13-09-2005"},
-        {"91 days after", Regimen::General, {"14-09-2005"}, "15-06-2005"},
-        {"a date that can't be read is a very old one", Regimen::General, {"ayer"}, "15-06-2005"},
-        {"other schemes count from the retirement", Regimen::Agrario, {"31-05-2005"}, "15-06-2005"},
+        {"no period", {}, "15-06-2005"},
+        {"within the month", {"12-06-2005"}, "12-06-2005"},
+        {"the end of a month gives the first of the next", {"31-05-2005"}, "01-06-2005"},
+        {"January's number isn't greater than December's", {"31-12-2004"}, "31-12-2004", "15-01-2005"},
+        {"the latest counts, wherever it stands", {"20-04-2005", "", "31-12-2004"}, "20-04-2005"},
+        {"90 days before", {"17-03-2005"}, "17-03-2005"},
+        {"91 days before", {"16-03-2005"}, "15-06-2005"},
+        {"90 days after", {"13-09-2005"}, "13-09-2005"},
+        {"91 days after", {"14-09-2005"}, "15-06-2005"},
+        {"a date that can't be read is a very old one", {"ayer"}, "15-06-2005"},
+        {"other schemes count from the retirement",
+         {"31-05-2005"},
+         "15-06-2005",
+         "15-06-2005",
+         Regimen::Agrario},
     };
     for (const Caso& caso : casos) {
-        SCOPED_TRACE(caso.historia);
-        EXPECT_EQ(FechaReferencia(caso.regimen, LeeFecha("15-06-2005"), caso.dias),
-                  LeeFecha(caso.referencia));
+        EXPECT_EQ(FechaReferencia(caso.regimen, LeeFecha(caso.jubilacion), caso.dias),
+                  LeeFecha(caso.referencia))
+            << caso.historia;
     }
-    EXPECT_EQ(FechaReferencia(Regimen::General, LeeFecha("15-01-2005"), {"31-12-2004"}),
-              LeeFecha("31-12-2004"))
-        << "January's number isn't greater than December's";
-}
-
-TEST(FechaReferencia, ALastDayCountsWithoutItsFirst) {
     RegistroJubilacion caso = casoTipo();
     ponPeriodo(caso, 1, "01-01-1970", "31-03-2005");
     ponPeriodo(caso, 5, "", "31-05-2005");
-    EXPECT_EQ(FechaReferencia(caso), LeeFecha("01-06-2005"));
+    EXPECT_EQ(FechaReferencia(caso), LeeFecha("01-06-2005")) << "a last day without its first";
 }
 
 TEST(BaseReguladora, DividesTheSumByTheFourteenths) {
     RegistroJubilacion caso = casoTipo();
-    EXPECT_EQ(baseReguladora(caso, tablasPlanas(0)).importe, 1000);
     caso.JubiSumaBases = 1001;
-    EXPECT_EQ(baseReguladora(caso, tablasPlanas(0)).importe, 4.77) << "4,7667";
+    EXPECT_EQ(baseReguladora(caso, tablasPlanas(0)).importe, 4.77) << "1001 / 210";
     ponFechas(caso, "15-06-1935", "15-06-1998");
     EXPECT_EQ(baseReguladora(caso, tablasPlanas(0)).importe, 7.15) << "1001 / 140";
 }
@@ -65,48 +61,40 @@ TEST(BaseReguladora, DividesTheSumByTheFourteenths) {
 /// A case whose 180 bases are all the same, counted from 01-06-2005: month 1 is May 2005, month 25 May 2003.
 RegistroJubilacion casoConBases(double base, Regimen regimen = Regimen::General) {
     RegistroJubilacion caso = casoTipo();
-    caso.JubiRegimen = static_cast<std::uint8_t>(static_cast<int>(regimen) - 1);
+    ponRegimen(caso, regimen);
     caso.JubiBasesDesglosadas = 1;
     caso.JubiBase.fill(base);
     return caso;
 }
 
-struct SupuestoBase {
-    const char* historia;
-    double base;
-    Regimen regimen;
-    double ultima;  // base of month 1
-    double mes25;   // base of month 25
-    double esperada;
-};
-
 TEST(BaseReguladora, AddsTheMonthsUpAsTheyAreRead) {
-    const SupuestoBase casos[] = {
-        {"whole euros: 180 x 1000 / 210", 1000, Regimen::General, 1000, 1000, 857.14},
-        {"cents are lost in the first 24: (24 x 1234 + 156 x 1234,56) / 210", 1234.56, Regimen::General,
-         1234.56, 1234.56, 1058.13},
-        {"a gap in month 1 takes the minimum base: (179 x 1000 + 572,70) / 210", 1000, Regimen::General, 0,
-         1000, 855.11},
-        {"half a euro in month 1 is no gap and counts nothing: 179 x 1000 / 210", 1000, Regimen::General, 0.5,
-         1000, 852.38},
-        {"half a euro in month 25 counts: (179 x 1000 + 0,50) / 210", 1000, Regimen::General, 1000, 0.5,
-         852.38},
-        {"a gap in month 25 takes the minimum over the index, 526,50 / 100 = 5,27", 1000, Regimen::General,
-         1000, 0, 852.41},
-        {"the self-employed fill no gaps", 1000, Regimen::Autonomos, 0, 0, 847.62},
-        {"nor does the agrarian scheme", 1000, Regimen::Agrario, 0, 0, 847.62},
-        {"nor the domestic one", 1000, Regimen::EmpleadosHogar, 0, 0, 847.62},
-        {"the partial pension does: (178 x 1000 + 572,70 + 5,27) / 210", 1000, Regimen::Parcial, 0, 0,
-         850.37},
+    struct Caso {
+        const char* historia;
+        double esperada;
+        double mes1, mes24, mes25;
+        double base = 1000;  // of the other months
+        Regimen regimen = Regimen::General;
     };
-    for (const SupuestoBase& s : casos) {
-        SCOPED_TRACE(s.historia);
-        RegistroJubilacion caso = casoConBases(s.base, s.regimen);
-        caso.JubiBase[0] = s.ultima;
-        caso.JubiBase[24] = s.mes25;
-        const BaseReguladora base = baseReguladora(caso, tablasPlanas(100));
-        EXPECT_EQ(base.importe, s.esperada);
-        EXPECT_FALSE(base.IPCProyectado);
+    const Caso casos[] = {
+        {"cents are lost in the first 24: (24 x 1234 + 156 x 1234,56) / 210", 1058.13, 1234.56, 1234.56,
+         1234.56, 1234.56},
+        {"a gap in month 1 takes the minimum base: (179 x 1000 + 572,70) / 210", 855.11, 0, 1000, 1000},
+        {"half a euro in months 1 and 24 is no gap and counts nothing: 178 x 1000 / 210", 847.62, 0.5, 0.5,
+         1000},
+        {"half a euro in month 25 counts: (179 x 1000 + 0,50) / 210", 852.38, 1000, 1000, 0.5},
+        {"a gap in month 25 takes the minimum over the index, 526,50 / 100 = 5,27", 852.41, 1000, 1000, 0},
+        {"the self-employed fill no gaps", 847.62, 0, 1000, 0, 1000, Regimen::Autonomos},
+        {"nor does the agrarian scheme", 847.62, 0, 1000, 0, 1000, Regimen::Agrario},
+        {"nor the domestic one", 847.62, 0, 1000, 0, 1000, Regimen::EmpleadosHogar},
+        {"the partial pension does: (178 x 1000 + 572,70 + 5,27) / 210", 850.37, 0, 1000, 0, 1000,
+         Regimen::Parcial},
+    };
+    for (const Caso& c : casos) {
+        RegistroJubilacion caso = casoConBases(c.base, c.regimen);
+        caso.JubiBase[0] = c.mes1;
+        caso.JubiBase[23] = c.mes24;
+        caso.JubiBase[24] = c.mes25;
+        EXPECT_EQ(baseReguladora(caso, tablasPlanas(100)).importe, c.esperada) << c.historia;
     }
 }
 
@@ -118,9 +106,7 @@ TEST(BaseReguladora, BringsTheEarlierMonthsToMonth25) {
     pensiones::TablaIPC ipc;
     for (auto& anio : ipc) anio.fill(110);
     ipc[2002 - 1984].fill(100);
-    const pensiones::TablasPensiones tablas{ipc, pensiones::CargaBasesMinimas()};
-    // The retirement falls in June 2005, so that the months of the self-employed are the same: 3100 / 210.
-    EXPECT_EQ(baseReguladora(caso, tablas).importe, 14.76);
+    EXPECT_EQ(baseReguladora(caso, {ipc, pensiones::CargaBasesMinimas()}).importe, 14.76) << "3100 / 210";
 }
 
 TEST(BaseReguladora, ProjectsFromTheFirstMonthOf2005On) {
@@ -132,14 +118,14 @@ TEST(BaseReguladora, ProjectsFromTheFirstMonthOf2005On) {
 }
 
 TEST(BaseReguladora, AMonthWithoutIndexIsADivisionByZero) {
-    EXPECT_THROW(static_cast<void>(baseReguladora(casoConBases(1000), tablasPlanas(0))), DivisionPorCero);
-    EXPECT_THROW(static_cast<void>(baseReguladora(casoConBases(0, Regimen::Autonomos), tablasPlanas(0))),
-                 DivisionPorCero)
-        << "0 over 0 too";
+    const auto base = [](const RegistroJubilacion& caso, double indice) {
+        static_cast<void>(baseReguladora(caso, tablasPlanas(indice)));
+    };
+    EXPECT_THROW(base(casoConBases(1000), 0), DivisionPorCero);
+    EXPECT_THROW(base(casoConBases(0, Regimen::Autonomos), 0), DivisionPorCero) << "0 over 0 too";
     RegistroJubilacion antiguo = casoConBases(1000, Regimen::Autonomos);
     ponFechas(antiguo, "15-06-1925", "15-06-1990");
-    EXPECT_THROW(static_cast<void>(baseReguladora(antiguo, tablasPlanas(100))), DivisionPorCero)
-        << "its first months lie before 1984";
+    EXPECT_THROW(base(antiguo, 100), DivisionPorCero) << "its first months lie before 1984";
 }
 
 }  // namespace

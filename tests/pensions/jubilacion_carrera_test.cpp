@@ -45,20 +45,14 @@ TEST(CoeficienteReductor, SoftensWithTheYearsContributed) {
         {60, 34, true, false, 0.625, true}, {60, 35, true, false, 0.65, true},
         {60, 37, true, false, 0.65, true},  {60, 38, true, false, 0.6, true},
         {60, 39, true, false, 0.6, true},   {60, 40, true, false, 0.7, true},
-        {60, 50, true, false, 0.7, true},   {60, 40, true, true, 0.6, false},
-        {60, 29, false, false, 0.6, false}, {60, 30, false, false, 0.6, true},
-        {61, 31, false, false, 0.7, true},  {64, 35, false, false, 0.93, true},
-        {62, 38, false, false, 0.76, true}, {63, 40, false, false, 0.88, true},
-        {64, 40, false, true, 0.92, false},
+        {60, 40, true, true, 0.6, false},   {60, 29, false, false, 0.6, false},
+        {60, 30, false, false, 0.6, true},  {64, 35, false, false, 0.93, true},
     };
     for (const Caso& caso : casos) {
-        SCOPED_TRACE(testing::Message()
-                     << caso.edad << " with " << caso.anios << (caso.antesDe1967 ? " before 1967" : "")
-                     << (caso.voluntario ? ", willingly" : ""));
         const Coeficiente coeficiente =
             CoeficienteReductor(caso.edad, caso.anios, caso.antesDe1967, caso.voluntario);
-        EXPECT_NEAR(coeficiente.valor, caso.valor, 1e-15);
-        EXPECT_EQ(coeficiente.especial, caso.especial);
+        EXPECT_NEAR(coeficiente.valor, caso.valor, 1e-15) << caso.edad << " with " << caso.anios;
+        EXPECT_EQ(coeficiente.especial, caso.especial) << caso.edad << " with " << caso.anios;
     }
 }
 
@@ -69,9 +63,7 @@ TEST(DiasBonificados, GoByTheAgeOnTheFirstOf1967) {
     EXPECT_EQ(dias("01-01-1947"), 0) << "20 years";
     EXPECT_DOUBLE_EQ(dias("01-01-1946"), 250.4) << "21 years";
     EXPECT_DOUBLE_EQ(dias("02-01-1946"), 0) << "20, one day short of 21";
-    EXPECT_DOUBLE_EQ(dias("15-06-1936"), 2504) << "30 years";
     EXPECT_DOUBLE_EQ(dias("15-06-1890"), 45 * 250.4) << "counted as 65";
-    EXPECT_EQ(dias("15-06-1936", Regimen::Autonomos), 0);
     EXPECT_EQ(dias("15-06-1936", Regimen::EmpleadosHogar), 0);
     EXPECT_DOUBLE_EQ(dias("15-06-1936", Regimen::Agrario), 2504);
 }
@@ -108,12 +100,12 @@ TEST(AniosParaPorcentaje, CountFrom1960WithTheBonus) {
 }
 
 TEST(DiasDesde1960, CutsOrNotByScheme) {
-    const auto dias = [](const char* desde, const char* hasta, Regimen regimen) {
+    const auto dias = [](const char* desde, const char* hasta, Regimen regimen = Regimen::General) {
         return DiasDesde1960(LeeFecha(desde), LeeFecha(hasta), regimen);
     };
-    EXPECT_EQ(dias("01-01-1959", "01-01-1961", Regimen::General), 366);
-    EXPECT_EQ(dias("01-01-1958", "01-01-1959", Regimen::General), 0);
-    EXPECT_EQ(dias("01-01-1961", "01-01-1962", Regimen::General), 365);
+    EXPECT_EQ(dias("01-01-1959", "01-01-1961"), 366);
+    EXPECT_EQ(dias("01-01-1958", "01-01-1959"), 0);
+    EXPECT_EQ(dias("01-01-1961", "01-01-1962"), 365);
     EXPECT_EQ(dias("01-01-1959", "01-01-1961", Regimen::EmpleadosHogar), 731);
 }
 
@@ -124,13 +116,14 @@ TEST(Carrera, HoursCountOncePerPeriodForThePercentageAndOnceForTheYears) {
     ponPeriodo(caso, 2, "01-01-2002", "01-01-2003");
     ponPeriodo(caso, 3, "01-01-2003", "01-01-2004");
     caso.HorasTP = 1000;
-    caso.HorasTP15 = 1000;
+    caso.HorasTP15 = 100;
     const Carrera carrera = estudiaCarrera(caso);
     EXPECT_EQ(carrera.aniosParaPorcentaje, 6);
-    // 1395 days are 3 years and 300 days, ten months that count as another year.
-    EXPECT_EQ(carrera.cotizado.anios, 4);
+    EXPECT_EQ(carrera.cotizado.anios, 4) << "1395 days: the ten months over three years are another";
     EXPECT_EQ(carrera.cotizado.meses, 0);
-    EXPECT_EQ(carrera.ultimos15.anios, 4);
+    EXPECT_EQ(carrera.ultimos15.anios, 4) << "30 days more than three years";
+    caso.HorasTP15 = 0;
+    EXPECT_EQ(estudiaCarrera(caso).ultimos15.anios, 3);
 }
 
 TEST(Carrera, FifteenDaysOverAYearCountAsAnother) {
@@ -139,10 +132,8 @@ TEST(Carrera, FifteenDaysOverAYearCountAsAnother) {
         ponPeriodo(caso, 1, "01-01-2001", hasta);
         return estudiaCarrera(caso).cotizado.anios;
     };
-    EXPECT_EQ(anios("11-01-2002"), 1) << "10 days over";
     EXPECT_EQ(anios("15-01-2002"), 1) << "14 days over";
     EXPECT_EQ(anios("16-01-2002"), 2) << "15 days over, half a month to the nudge";
-    EXPECT_EQ(anios("21-01-2002"), 2) << "20 days over";
 }
 
 TEST(Carrera, TakesTheRowsWithAFirstDay) {
@@ -168,28 +159,20 @@ TEST(Carrera, TheMinimumAgeGoesBySchemeAndYear) {
                           {3, "31-12-1966", 60}, {4, "31-12-1966", 65}, {5, "31-12-1966", 64},
                           {6, "01-01-1967", 60}};
     for (const Caso& c : casos) {
-        SCOPED_TRACE(testing::Message() << "regime " << c.regimen << " since " << c.desde);
         RegistroJubilacion caso = casoTipo();
         caso.JubiRegimen = static_cast<std::uint8_t>(c.regimen - 1);
         ponPeriodo(caso, 1, c.desde, "31-05-2005");
         const Carrera carrera = estudiaCarrera(caso);
-        EXPECT_EQ(carrera.edadMinima, c.edad);
+        EXPECT_EQ(carrera.edadMinima, c.edad) << "regime " << c.regimen << " since " << c.desde;
         EXPECT_EQ(carrera.ultimaFecha,
                   LeeFecha(c.regimen == 1 || c.regimen == 3 ? "31-05-2005" : "01-01-1901"));
     }
 }
 
 TEST(FactorInflacion, IsKeptInSinglePrecision) {
-    EXPECT_EQ(FactorInflacion(1990), 1.0F);
     EXPECT_EQ(FactorInflacion(2005), 1.0F);
-    EXPECT_EQ(FactorInflacion(2006), 1.02F);
     EXPECT_EQ(FactorInflacion(2007), 1.0404F);
     EXPECT_THROW(static_cast<void>(FactorInflacion(9999)), DesbordeNumerico);
-}
-
-TEST(PeriodoMinimoJubilacion, IsTheSameOnAnyDate) {
-    EXPECT_EQ(PeriodoMinimoJubilacion(LeeFecha("01-01-1980")), 180);
-    EXPECT_EQ(PeriodoMinimoJubilacion(LeeFecha("01-01-2030")), 180);
 }
 
 }  // namespace
