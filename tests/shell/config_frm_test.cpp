@@ -61,21 +61,15 @@ TEST_F(ConfigFrmPrueba, SinFicheroTodoEstaEnBlancoYElFicheroSeCreaVacio) {
     EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
 }
 
-TEST_F(ConfigFrmPrueba, LaObraSeVeSoloConLaCasillaSinMarcar) {
-    frm.Inicia();
-    frm.escribe(frm.campo("Obra", 4), "Otra obra");
-    frm.marca(frm.campo("Opciones", 4), true);
-    EXPECT_EQ(opcion(4), "[x] Protección Familiar ||(oculta)");
-    EXPECT_TRUE(frm.campo("Obra", 3).visible());
-    frm.marca(frm.campo("Opciones", 4), false);
-    EXPECT_EQ(opcion(4), "[ ] Protección Familiar ||Otra obra");
-}
-
 TEST_F(ConfigFrmPrueba, EscribeLosDieciseisRegistros) {
     mundo.almacen["config.nom"] = fichero("Antes", {{0, {-1, "Con texto", "4"}}, {14, {-1, "", "7"}}});
     frm.Inicia();
     frm.escribe(frm.TituloPrograma, "Después, más");
+    frm.escribe(frm.campo("Obra", 2), "Se pierde");
     frm.marca(frm.campo("Opciones", 2), true);
+    EXPECT_EQ(opcion(2), "[x] Muerte y Supervivencia |  |(oculta)");
+    frm.marca(frm.campo("Opciones", 14), false);
+    EXPECT_EQ(opcion(14), "[ ] Riesgo embarazo |7 |");
     frm.escribe(frm.campo("Orden", 2), " 5");
     frm.escribe(frm.campo("Orden", 3), "123");
     frm.escribe(frm.campo("Obra", 3), "Vea la obra nº 2");
@@ -84,7 +78,7 @@ TEST_F(ConfigFrmPrueba, EscribeLosDieciseisRegistros) {
     // Record 1 keeps the mark and the order that stood in the buffer: those of the last record read.
     std::string esperado = registroConfig(999, -1, "Despu\xE9s, m\xE1s", "7");
     for (std::uint32_t i = 0; i < 15; ++i) {
-        const bool activa = i == 0 || i == 2 || i == 14;
+        const bool activa = i == 0 || i == 2;
         const std::string orden[15] = {"4", "", "5", "12", "", "", "", "", "", "", "", "", "", "", "7"};
         esperado += registroConfig(i, activa ? -1 : 0, i == 3 ? "Vea la obra n\xBA 2" : "", orden[i]);
     }
@@ -101,25 +95,6 @@ TEST_F(ConfigFrmPrueba, LoQueNoCabeNoEntra) {
     EXPECT_EQ(frm.TituloPrograma.texto().size(), 248U);
     EXPECT_EQ(frm.campo("Orden", 0).texto(), "10");
     EXPECT_EQ(frm.campo("Obra", 0).texto().size(), 248U);
-}
-
-TEST_F(ConfigFrmPrueba, LoEscritoMandaEnElSiguienteInicio) {
-    ponFotos(mundo.almacen);
-    frm.Inicia();
-    frm.escribe(frm.TituloPrograma, "MI DESPACHO");
-    frm.marca(frm.campo("Opciones", 5), true);
-    frm.escribe(frm.campo("Orden", 5), "1");
-    frm.escribe(frm.campo("Obra", 6), "En la obra");
-    frm.marca(frm.campo("Opciones", 13), true);
-    genera();
-
-    VistaProgramaFalsa vista;
-    Programa programa{mundo.entorno, {}, vista};
-    programa.Inicia();
-    EXPECT_EQ(mundo.valores.TituloPrograma, "MI DESPACHO");
-    EXPECT_TRUE(mundo.valores.VerBaseActual);
-    EXPECT_THAT(aLaVista(programa), ElementsAre("Desempleo (izquierda 1)", "Maternidad (izquierda 7)",
-                                                "Información (derecha 7)", "&Fin del Programa (derecha 8)"));
 }
 
 TEST_F(ConfigFrmPrueba, SiNoSePuedeEscribirLoDiceYDejaElFicheroComoEstaba) {

@@ -36,26 +36,6 @@ TEST(ConfigNom, LosDieciseisRegistrosQuedanEscritosByteAByte) {
     EXPECT_EQ(esperado.size(), 4096U);
 }
 
-TEST(ConfigNom, CadaRegistroSeLeeDeSuSitio) {
-    EntornoFalso mundo;
-    mundo.almacen["config.nom"] = fichero("T\xEDtulo", {{0, {-1, "", "3"}}, {14, {1, "  Otra obra", " 9"}}});
-    ConfigNom config{mundo.almacen};
-
-    const RegistroConfig titulo = config.lee(kRegistroTitulo);
-    EXPECT_EQ(titulo.Numero, 999);
-    EXPECT_EQ(titulo.Texto.utf8(), "Título");
-    EXPECT_FALSE(titulo.activa());
-
-    const RegistroConfig primera = config.lee(registroDeOpcion(0));
-    EXPECT_TRUE(primera.activa());
-    EXPECT_EQ(primera.Orden.utf8(), "3");
-
-    const RegistroConfig ultima = config.lee(registroDeOpcion(14));
-    EXPECT_EQ(ultima.Numero, 14);
-    EXPECT_TRUE(ultima.activa()) << "any value but 0 is true";
-    EXPECT_EQ(ultima.Texto.utf8(), "Otra obra");
-}
-
 TEST(ConfigNom, LoQueNoEstaEnElFicheroSeLeeVacio) {
     EntornoFalso mundo;
     mundo.almacen["config.nom"] = registroConfig(999, -1, "Sin terminar").substr(0, 12);
