@@ -69,9 +69,6 @@ TEST_F(ProgramaInicio, LasOpcionesDelMenuSalenDeConfigNom) {
     };
     const Caso casos[] = {
         {"nothing is active: only what is always there", {}, {}},
-        {"active options keep their default places; any value but 0 is true",
-         {{0, {-1}}, {6, {256}}, {7, {1}}},
-         {"Jubilación (izquierda 1)", "Maternidad (izquierda 7)", "Incapacidad Temporal (derecha 1)"}},
         {"8 is the left column's last row, 9 the right one's first",
          {{0, {-1, "", "8"}}, {1, {-1, "", "9"}}},
          {"Jubilación (izquierda 8)", "Incapacidad Permanente (derecha 1)"}},
@@ -82,7 +79,6 @@ TEST_F(ProgramaInicio, LasOpcionesDelMenuSalenDeConfigNom) {
         {"inactive with a text is on view, and moves too",
          {{11, {0, "En la obra", "1"}}},
          {"Retenciones IRPF (izquierda 1)"}},
-        {"inactive without a text is hidden", {{11, {0, "   ", "1"}}}, {}},
         {"a place off the panel is a place",
          {{8, {-1, "", "-9"}}, {9, {-1, "", "99"}}},
          {"Capitalización de pensiones (izquierda -9)", "Cálculo de Nóminas (derecha 91)"}},
@@ -99,6 +95,29 @@ TEST_F(ProgramaInicio, LasOpcionesDelMenuSalenDeConfigNom) {
         esperadas.insert(esperadas.end(), std::begin(kInformacionYFin), std::end(kInformacionYFin));
         EXPECT_EQ(aLaVista(otro), esperadas) << caso.cuento;
     }
+}
+
+TEST_F(ProgramaInicio, LasOpcionesActivasSinOrdenEstanEnSuPuesto) {
+    std::vector<std::pair<int, Opcion>> todas;
+    for (int i = 0; i < 15; ++i) todas.push_back({i, {i == 6 ? 256 : -1}});  // any value but 0 is true
+    mundo.almacen["config.nom"] = fichero("x", todas);
+    programa.Inicia();
+    EXPECT_THAT(
+        aLaVista(programa),
+        ElementsAre("Jubilación (izquierda 1)", "Incapacidad Permanente (izquierda 2)",
+                    "Muerte y Supervivencia (izquierda 3)",
+                    "Jubilación e Invalidez no Contributiva (izquierda 4)",
+                    "Prestaciones Familiares no ContrIbutivas (izquierda 5)", "Desempleo (izquierda 6)",
+                    "Maternidad (izquierda 7)", "Incapacidad Temporal (derecha 1)",
+                    "Capitalización de pensiones (derecha 2)", "Cálculo de Nóminas (derecha 3)",
+                    "Conversión de líquidos en brutos (derecha 4)", "Retenciones IRPF (derecha 5)",
+                    "Fondo bibliográfico (derecha 6)", "Información (derecha 7)",
+                    "Riesgo Embarazo (izquierda 8)", "&Fin del Programa (derecha 8)"));
+
+    mundo.almacen["config.nom"] = fichero("x", {{11, {0, "   ", "1"}}});
+    Programa otro{mundo.entorno, {}, vista};
+    otro.Inicia();
+    EXPECT_EQ(otro.opciones()[11].puesto, (Puesto{Columna::Derecha, 5})) << "hidden, it keeps its place";
 }
 
 TEST_F(ProgramaInicio, ElRegistroQuinceSoloEnciendeVerBaseActualYElUltimoEsRiesgoEmbarazo) {
