@@ -13,13 +13,16 @@
 #include "apoyo/almacen_memoria.h"
 #include "apoyo/mensajes_falsos.h"
 #include "benefits/desempleo_registro.h"
+#include "benefits/familiar_registro.h"
 #include "benefits/incapacidad_temporal_registro.h"
 #include "benefits/maternidad_registro.h"
+#include "benefits/nocontributiva_registro.h"
 #include "benefits/riesgo_embarazo_registro.h"
 #include "cases/archivo_supuestos.h"
 #include "cases/dialogos.h"
 #include "exige.h"
 #include "foundations/values/textos.h"
+#include "pensions/jubilacion_registro.h"
 
 namespace {
 
@@ -43,10 +46,13 @@ void porSuDiseno(const auto& diseno, const std::string& bytes) {
 }
 
 void porLosDisenos(const std::string& bytes) {
+    porSuDiseno<jubilacion::RegistroJubilacion>(jubilacion::kDiseno, bytes);
     porSuDiseno<desempleo::RegistroDesempleo>(desempleo::kDiseno, bytes);
     porSuDiseno<incapacidad_temporal::RegistroIncapacidad>(incapacidad_temporal::kDiseno, bytes);
     porSuDiseno<maternidad::RegistroMaternidad>(maternidad::kDiseno, bytes);
     porSuDiseno<riesgo_embarazo::RegistroRiesgo>(riesgo_embarazo::kDiseno, bytes);
+    porSuDiseno<nocontributiva::RegistroNoContributiva>(nocontributiva::kDiseno, bytes);
+    porSuDiseno<familiar::RegistroFamiliar>(familiar::kDiseno, bytes);
 }
 
 /// The case file as the operations see it, and what they must do to it.

@@ -104,6 +104,13 @@ std::string ArchivoSupuestos::lee(int r) const {
     return bytes;
 }
 
+std::optional<EntradaSupuesto> ArchivoSupuestos::entrada(int r) const {
+    std::string cabecera(kAnchoCabecera, '\0');
+    almacen_.abre(nombre_, Acceso::Lectura)->lee(posicion(r), cabecera);
+    if (esLibre(cabecera)) return std::nullopt;
+    return EntradaSupuesto{r, nombreSupuesto(cabecera)};
+}
+
 std::vector<EntradaSupuesto> ArchivoSupuestos::lista() const {
     const auto fichero = almacen_.abre(nombre_, Acceso::Lectura);
     std::vector<EntradaSupuesto> entradas;

@@ -55,6 +55,9 @@ class ArchivoSupuestos {
     /// The bytes of record r; those beyond the end of the file are NUL.
     [[nodiscard]] std::string lee(int r) const;
 
+    /// The case of record r; nullopt for a free slot. Nothing past the head is looked at.
+    [[nodiscard]] std::optional<EntradaSupuesto> entrada(int r) const;
+
     /// The cases in use in the order of their records; nothing past the heads is looked at.
     [[nodiscard]] std::vector<EntradaSupuesto> lista() const;
 

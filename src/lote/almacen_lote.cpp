@@ -2,33 +2,52 @@
 
 namespace orvemo::lote {
 
+namespace {
+
+/// A file that stays open when its borrower closes it, and takes nothing.
+class Prestado final : public FicheroAleatorio {
+  public:
+    explicit Prestado(FicheroAleatorio& fichero) : fichero_{fichero} {}
+
+    [[nodiscard]] std::uint64_t longitud() override { return fichero_.longitud(); }
+    std::size_t lee(std::uint64_t posicion, std::span<char> destino) override {
+        return fichero_.lee(posicion, destino);
+    }
+    std::size_t escribe(std::uint64_t, std::span<const char>) override { return 0; }
+    bool corta(std::uint64_t) override { return false; }
+
+  private:
+    FicheroAleatorio& fichero_;
+};
+
+}  // namespace
+
 AlmacenLote::AlmacenLote(const std::filesystem::path& datos, const std::filesystem::path& fichero)
-    : datos_{datos},
-      lugar_{std::filesystem::absolute(fichero).parent_path()},
-      fichero_{fichero.filename().string()} {}
+    : datos_{datos}, comoSeDio_{fichero.string()}, fichero_{AbreParaLeer(fichero)} {}
+
+bool AlmacenLote::esElFichero(std::string_view nombre) const {
+    return nombre == nombre_ || nombre == comoSeDio_;
+}
 
 bool AlmacenLote::existe(std::string_view nombre) const {
-    return esElFichero(nombre) ? lugar_.existe(fichero_) : datos_.existe(nombre);
+    return esElFichero(nombre) || datos_.existe(nombre);
 }
 
 std::unique_ptr<FicheroAleatorio> AlmacenLote::abre(std::string_view nombre, Acceso acceso) {
-    return esElFichero(nombre) ? lugar_.abre(fichero_, acceso) : datos_.abre(nombre, acceso);
+    if (esElFichero(nombre)) return std::make_unique<Prestado>(*fichero_);
+    return datos_.abre(nombre, acceso);
 }
 
 std::string AlmacenLote::leeTodo(std::string_view nombre) const {
-    return esElFichero(nombre) ? lugar_.leeTodo(fichero_) : datos_.leeTodo(nombre);
+    return datos_.leeTodo(nombre);
 }
 
 void AlmacenLote::sustituye(std::string_view nombre, std::string_view contenido) {
-    if (esElFichero(nombre)) {
-        lugar_.sustituye(fichero_, contenido);
-    } else {
-        datos_.sustituye(nombre, contenido);
-    }
+    datos_.sustituye(nombre, contenido);
 }
 
 std::filesystem::path AlmacenLote::ruta(std::string_view nombre) const {
-    return esElFichero(nombre) ? lugar_.ruta(fichero_) : datos_.ruta(nombre);
+    return datos_.ruta(nombre);
 }
 
 }  // namespace orvemo::lote

@@ -9,9 +9,10 @@
 namespace orvemo::lote {
 
 /// The application directory of a batch: the calculator's case file is the one given, whatever its name and
-/// place; everything else comes from the data directory.
+/// place, open to be read as long as the batch lasts; everything else comes from the data directory.
 class AlmacenLote final : public Almacen {
   public:
+    /// Throws FicheroInaccesible.
     AlmacenLote(const std::filesystem::path& datos, const std::filesystem::path& fichero);
 
     /// Name under which the calculator opens its case file.
@@ -24,11 +25,11 @@ class AlmacenLote final : public Almacen {
     [[nodiscard]] std::filesystem::path ruta(std::string_view nombre) const override;
 
   private:
-    [[nodiscard]] bool esElFichero(std::string_view nombre) const { return nombre == nombre_; }
+    [[nodiscard]] bool esElFichero(std::string_view nombre) const;
 
     DirectorioAplicacion datos_;
-    DirectorioAplicacion lugar_;
-    std::string fichero_;
+    std::string comoSeDio_;
+    std::unique_ptr<FicheroAleatorio> fichero_;
     std::string nombre_;
 };
 

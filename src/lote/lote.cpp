@@ -1,7 +1,9 @@
 #include "lote/lote.h"
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <system_error>
 
 #include "cases/archivo_supuestos.h"
 #include "foundations/values/fallos.h"
@@ -70,30 +72,33 @@ class Apertura {
 
 class Lote {
   public:
+    /// Throws Fallo for a case file that can't be read, or a data file of the calculator that is amiss.
     Lote(const Opciones& opciones, const std::filesystem::path& datos, Abridor abre)
         : opciones_{opciones},
           almacen_{datos, opciones.fichero},
           reloj_{opciones.hoy},
           abre_{std::move(abre)} {
         Apertura apertura{abre_, almacen_, reloj_, {}};
-        fichero_ = apertura.calculadora().fichero();
-        longitud_ = apertura.calculadora().longitudRegistro();
-        almacen_.ponNombreDelFichero(fichero_);
+        Calculadora& calculadora = apertura.calculadora();
+        longitud_ = calculadora.longitudRegistro();
+        almacen_.ponNombreDelFichero(calculadora.fichero());
+        calculadora.Inicia();
     }
 
     [[nodiscard]] int cuenta() { return archivo().cuenta(); }
-    [[nodiscard]] bool enUso(int registro) { return archivo().lee(registro).front() != kRegistroLibre; }
+    /// The case of that record; nullopt for a free slot.
+    [[nodiscard]] std::optional<EntradaSupuesto> entrada(int registro) { return archivo().entrada(registro); }
 
     /// Opens, loads, goes to the conclusions, prints if asked; whatever fails stands in the result.
-    [[nodiscard]] Resultado calcula(int registro) {
+    [[nodiscard]] Resultado calcula(const EntradaSupuesto& entrada) {
         Resultado resultado;
-        resultado.registro = registro;
-        Apertura apertura{abre_, almacen_, reloj_, rutaPdf(registro)};
+        resultado.registro = entrada.registro;
+        resultado.supuesto = entrada.nombre;
+        Apertura apertura{abre_, almacen_, reloj_, rutaPdf(entrada.registro)};
         Calculadora& calculadora = apertura.calculadora();
         try {
             calculadora.Inicia();
-            calculadora.DatosCargaRegistro(registro);
-            resultado.supuesto = calculadora.NombreActual();
+            calculadora.DatosCargaRegistro(entrada.registro);
             avanzaHastaConclusiones(calculadora);
             if (opciones_.pdf && apertura.error().empty()) apertura.imprime(almacen_);
             resultado.error = apertura.error();
@@ -107,7 +112,7 @@ class Lote {
     }
 
   private:
-    [[nodiscard]] ArchivoSupuestos archivo() { return {almacen_, fichero_, longitud_}; }
+    [[nodiscard]] ArchivoSupuestos archivo() { return {almacen_, opciones_.fichero.string(), longitud_}; }
 
     [[nodiscard]] std::filesystem::path rutaPdf(int registro) const {
         if (!opciones_.pdf) return {};
@@ -118,18 +123,22 @@ class Lote {
     AlmacenLote almacen_;
     RelojLote reloj_;
     Abridor abre_;
-    std::string fichero_;
     std::size_t longitud_ = 0;
 };
+
+void exigeDirectorio(const std::filesystem::path& ruta) {
+    std::error_code error;
+    if (std::filesystem::is_directory(ruta, error)) return;
+    throw ArgumentoInservible{"No se encuentra el directorio " + ruta.string() + "."};
+}
 
 /// Throws ArgumentoInservible for what can't be used at all.
 void compruebaRutas(const Opciones& opciones) {
     if (!ExisteArchivo(opciones.fichero)) {
         throw ArgumentoInservible{"No se encuentra el fichero " + opciones.fichero.string() + "."};
     }
-    if (opciones.pdf && !std::filesystem::is_directory(*opciones.pdf)) {
-        throw ArgumentoInservible{"No se encuentra el directorio " + opciones.pdf->string() + "."};
-    }
+    if (opciones.datos) exigeDirectorio(*opciones.datos);
+    if (opciones.pdf) exigeDirectorio(*opciones.pdf);
 }
 
 Abridor abridorPedido(const std::string& nombre) {
@@ -145,7 +154,7 @@ Abridor abridorPedido(const std::string& nombre) {
 std::pair<int, int> registrosPedidos(const Opciones& opciones, Lote& lote) {
     const int cuenta = lote.cuenta();
     if (!opciones.registro) return {1, cuenta};
-    if (*opciones.registro > cuenta || !lote.enUso(*opciones.registro)) {
+    if (*opciones.registro > cuenta || !lote.entrada(*opciones.registro)) {
         throw ArgumentoInservible{"El fichero no tiene ningún supuesto en el registro " +
                                   std::to_string(*opciones.registro) + "."};
     }
@@ -156,13 +165,15 @@ int calculaTodo(const Opciones& opciones, Lote& lote, std::ostream& salida) {
     const auto [primero, ultimo] = registrosPedidos(opciones, lote);
     bool algunFallo = false;
     for (int registro = primero; registro <= ultimo; ++registro) {
-        if (!lote.enUso(registro)) continue;
-        const Resultado resultado = lote.calcula(registro);
+        const auto entrada = lote.entrada(registro);
+        if (!entrada) continue;
+        const Resultado resultado = lote.calcula(*entrada);
         algunFallo = algunFallo || !resultado.error.empty();
         (opciones.json ? escribeJson : escribeTexto)(salida, resultado);
+        // Whoever reads has each result as soon as it's there, and nothing is computed for nobody.
+        if (!salida.flush()) throw ArgumentoInservible{"No se puede escribir la salida."};
     }
-    salida.flush();
-    return algunFallo || !salida ? kAlgunoFallo : kTodoCalculado;
+    return algunFallo ? kAlgunoFallo : kTodoCalculado;
 }
 
 }  // namespace
@@ -176,7 +187,7 @@ int ejecuta(const Opciones& opciones, const std::filesystem::path& datosPorDefec
     } catch (const ArgumentoInservible& error) {
         errores << error.what() << '\n';
     } catch (const Fallo& fallo) {
-        errores << fallo.what() << '\n';
+        errores << "No se ha podido completar la operación: " << fallo.what() << ".\n";
     }
     return kInservible;
 }

@@ -18,6 +18,15 @@ const QCommandLineOption kPdf{"pdf", "Imprime cada informe en DIR/CALCULADORA-N.
 const QCommandLineOption kJson{"json", "Un objeto JSON por línea en lugar de texto."};
 const QCommandLineOption kAyuda{{"h", "ayuda"}, "Muestra esta ayuda."};
 
+// The parser sees every byte of the command line as one character: a file name needn't be UTF-8.
+QString comoLlega(const std::string& argumento) {
+    return QString::fromLatin1(argumento.data(), static_cast<qsizetype>(argumento.size()));
+}
+
+std::string comoSeDio(const QString& argumento) {
+    return argumento.toLatin1().toStdString();
+}
+
 int leeRegistro(const QString& texto) {
     bool legible = false;
     const int registro = texto.toInt(&legible);
@@ -26,13 +35,16 @@ int leeRegistro(const QString& texto) {
 }
 
 Fecha leeHoy(const QString& texto) {
-    const QDate dia = QDate::fromString(texto, Qt::ISODate);
-    if (!dia.isValid()) throw ArgumentoInservible{"La fecha de --hoy debe ser AAAA-MM-DD."};
+    const QDate dia = QDate::fromString(texto, "yyyy-MM-dd");
+    if (!ExisteFecha(dia.day(), dia.month(), dia.year()))
+        throw ArgumentoInservible{"La fecha de --hoy debe ser AAAA-MM-DD."};
     return FechaDMA(dia.day(), dia.month(), dia.year());
 }
 
-std::filesystem::path ruta(const QString& texto) {
-    return std::filesystem::path{texto.toStdString()};
+std::string motivo(const QCommandLineParser& analizador) {
+    const QStringList desconocidas = analizador.unknownOptionNames();
+    if (desconocidas.empty()) return analizador.errorText().toStdString();
+    return "No existe la opción «" + comoSeDio(desconocidas.front()) + "» (véase --ayuda).";
 }
 
 void describe(QCommandLineParser& analizador) {
@@ -50,19 +62,19 @@ Opciones leeOpciones(const std::vector<std::string>& argumentos) {
     QCommandLineParser analizador;
     describe(analizador);
     QStringList lista;
-    for (const std::string& argumento : argumentos) lista << QString::fromStdString(argumento);
-    if (!analizador.parse(lista)) throw ArgumentoInservible{analizador.errorText().toStdString()};
+    for (const std::string& argumento : argumentos) lista << comoLlega(argumento);
+    if (!analizador.parse(lista)) throw ArgumentoInservible{motivo(analizador)};
     if (analizador.isSet(kAyuda)) throw PideAyuda{analizador.helpText().toStdString()};
     const QStringList sueltos = analizador.positionalArguments();
     if (sueltos.size() != 2) throw ArgumentoInservible{"Se esperan CALCULADORA y FICHERO (véase --ayuda)."};
 
     Opciones opciones;
-    opciones.calculadora = sueltos[0].toStdString();
-    opciones.fichero = ruta(sueltos[1]);
+    opciones.calculadora = comoSeDio(sueltos[0]);
+    opciones.fichero = comoSeDio(sueltos[1]);
     if (analizador.isSet(kRegistro)) opciones.registro = leeRegistro(analizador.value(kRegistro));
     if (analizador.isSet(kHoy)) opciones.hoy = leeHoy(analizador.value(kHoy));
-    if (analizador.isSet(kDatos)) opciones.datos = ruta(analizador.value(kDatos));
-    if (analizador.isSet(kPdf)) opciones.pdf = ruta(analizador.value(kPdf));
+    if (analizador.isSet(kDatos)) opciones.datos = comoSeDio(analizador.value(kDatos));
+    if (analizador.isSet(kPdf)) opciones.pdf = comoSeDio(analizador.value(kPdf));
     opciones.json = analizador.isSet(kJson);
     return opciones;
 }

@@ -33,10 +33,8 @@ class DestinoImpresion {
     [[nodiscard]] virtual double Width() const = 0;
 
     virtual void NewPage() = 0;
-    /// Ends the document and hands it over.
+    /// Ends the document and hands it over. One that is never ended leaves no trace.
     virtual void EndDoc() = 0;
-    /// Throws the document away.
-    virtual void KillDoc() = 0;
 
     [[nodiscard]] virtual float CurrentX() const = 0;
     [[nodiscard]] virtual float CurrentY() const = 0;

@@ -72,10 +72,6 @@ void DestinoPapel::NewPage() {
 
 void DestinoPapel::EndDoc() {
     entrega();
-    KillDoc();
-}
-
-void DestinoPapel::KillDoc() {
     hojas_.assign(1, {});
     x_ = y_ = 0;
 }

@@ -32,7 +32,6 @@ class DestinoPapel : public DestinoImpresion {
 
     void NewPage() override;
     void EndDoc() override;
-    void KillDoc() override;
 
     [[nodiscard]] float CurrentX() const override { return x_; }
     [[nodiscard]] float CurrentY() const override { return y_; }

@@ -1,6 +1,5 @@
 #include "toolkit/vista_formulario.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QScrollArea>
@@ -234,14 +233,6 @@ void VistaFormulario::enfoca(const Campo& campo) {
 
 void VistaFormulario::oculta() {
     hide();
-}
-
-void VistaFormulario::cursorEspera(bool espera) {
-    if (espera) {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    } else {
-        QApplication::restoreOverrideCursor();
-    }
 }
 
 void VistaFormulario::muestraModal(GrabaSupuesto& dialogo) {

@@ -33,7 +33,6 @@ class VistaFormulario final : public QDialog, public Vista, public Anfitrion {
     void muestraPantalla(int pantalla) override;
     void enfoca(const Campo& campo) override;
     void oculta() override;
-    void cursorEspera(bool espera) override;
     void muestraModal(GrabaSupuesto& dialogo) override;
     void muestraModal(CargaSupuesto& dialogo) override;
     void muestraModal(Formulario& formulario) override;

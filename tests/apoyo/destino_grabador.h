@@ -20,7 +20,7 @@ namespace orvemo::pruebas {
 /// One thing asked of the recorder. `x`, `y` are where it was asked, or the first corner of what was drawn;
 /// `x2`, `y2` the opposite corner, or the size of a picture.
 struct Operacion {
-    enum class Tipo { PonX, PonY, PonFuente, Texto, Linea, Caja, Imagen, NewPage, EndDoc, KillDoc };
+    enum class Tipo { PonX, PonY, PonFuente, Texto, Linea, Caja, Imagen, NewPage, EndDoc };
 
     Tipo tipo{};
     int pagina = 1;
@@ -75,8 +75,6 @@ struct Operacion {
             return "NewPage";
         case Tipo::EndDoc:
             return "EndDoc";
-        case Tipo::KillDoc:
-            return "KillDoc";
     }
     return {};
 }
@@ -96,8 +94,7 @@ class DestinoGrabador final : public DestinoImpresion {
     DestinoGrabador(double ancho, double alto) : ancho_{ancho}, alto_{alto} {}
 
     std::vector<Operacion> operaciones;
-    bool terminado = false;   ///< EndDoc was reached and went well
-    bool abandonado = false;  ///< KillDoc was called
+    bool terminado = false;  ///< EndDoc was reached and went well
 
     /// EndDoc fails.
     bool fallaAlTerminar = false;
@@ -154,11 +151,6 @@ class DestinoGrabador final : public DestinoImpresion {
         if (!fallaAlTerminar) terminado = true;
         if (alCerrar) alCerrar(*this);
         if (fallaAlTerminar) throw FalloImpresion{"la impresora no responde"};
-    }
-    void KillDoc() override {
-        abandonado = true;
-        operaciones.push_back({.tipo = Operacion::Tipo::KillDoc, .pagina = pagina_, .fuente = fuente_});
-        if (alCerrar) alCerrar(*this);
     }
 
     [[nodiscard]] float CurrentX() const override { return x_; }

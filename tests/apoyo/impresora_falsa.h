@@ -21,7 +21,6 @@ class ImpresoraFalsa final : public Impresora {
     std::vector<std::string> dibujo;      ///< see DestinoGrabador::dibujo
     std::vector<Operacion> operaciones;
     bool terminado = false;
-    bool abandonado = false;
 
     [[nodiscard]] std::unique_ptr<DestinoImpresion> elige(const std::string& documento) override {
         if (cancela) return nullptr;
@@ -38,7 +37,6 @@ class ImpresoraFalsa final : public Impresora {
         dibujo = cerrado.dibujo();
         operaciones = cerrado.operaciones;
         terminado = cerrado.terminado;
-        abandonado = cerrado.abandonado;
     }
 };
 

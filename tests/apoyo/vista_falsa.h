@@ -27,7 +27,6 @@ class VistaFalsa final : public Vista {
     void muestraPantalla(int pantalla) override { pantallas.push_back(pantalla); }
     void enfoca(const Campo& campo) override { enfocados.push_back(campo.def().nombre); }
     void oculta() override { oculta_ = true; }
-    void cursorEspera(bool /*espera*/) override {}
     void muestraModal(GrabaSupuesto& dialogo) override {
         if (alGrabar) alGrabar(dialogo);
     }

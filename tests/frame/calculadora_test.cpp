@@ -203,7 +203,12 @@ TEST_F(CalculadoraTest, PrintingSaysHowItEnded) {
     mundo.impresora.cancela = false;
     frm.pulsa(frm.BotonPrint);
     EXPECT_THAT(mundo.impresora.lineas, ElementsAre("DIVISION"));
-    EXPECT_THAT(mundo.mensajes.dichos, ElementsAre("Informa: Impresión terminada"));
+    mundo.impresora.fallaAlTerminar = true;
+    frm.pulsa(frm.BotonPrint);
+    EXPECT_THAT(mundo.mensajes.dichos,
+                ElementsAre("Informa: Impresión terminada",
+                            "Error: No se ha podido imprimir: la impresora no responde.",
+                            "Informa: Impresión terminada"));
 }
 
 }  // namespace

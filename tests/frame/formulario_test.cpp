@@ -28,7 +28,12 @@ class FormularioDePrueba final : public Formulario {
                       .alEscribir = [this](Campo&) { ++escrituras; }})},
           horas{nuevo({.nombre = "horas", .defecto = "0", .alSalir = rango("1", "99")})},
           suma{nuevo({.nombre = "suma", .filtro = TeclaNumero, .formato = "##,###,##0.00"})},
-          fecha{nuevo({.nombre = "fecha", .defecto = "01-02-2005", .alSalir = fechaCorrecta()})},
+          letras{nuevo({.nombre = "letras", .filtro = TeclaMayuscula})},
+          fecha{nuevo({.nombre = "fecha",
+                       .clase = Clase::FechaEscrita,
+                       .defecto = "01-02-2005",
+                       .alSalir = fechaCorrecta(),
+                       .alCambiar = [this](Campo&) { ++cambios; }})},
           selector{nuevo({.nombre = "selector",
                           .clase = Clase::FechaSelector,
                           .alCambiar = [this](Campo&) { ++cambios; }})},
@@ -59,7 +64,7 @@ class FormularioDePrueba final : public Formulario {
 
   public:
     int escrituras = 0, cambios = 0, pulsaciones = 0;
-    Campo &edad, &horas, &suma, &fecha, &selector, &marca_, &lista, &otra, &sigue, &sale;
+    Campo &edad, &horas, &suma, &letras, &fecha, &selector, &marca_, &lista, &otra, &sigue, &sale;
 };
 
 class FormularioTest : public testing::Test {
@@ -126,6 +131,9 @@ TEST_F(FormularioTest, ATypedDateIsRewrittenOrReplacedByToday) {
     EXPECT_THAT(mundo.mensajes.dichos, ElementsAre(kFechaMala));
     EXPECT_EQ(frm.fecha.texto(), "15-06-2005");
     EXPECT_EQ(frm.actual(), &frm.fecha);
+    EXPECT_EQ(frm.cambios, 1) << "the first date; today is told once it's left standing";
+    EXPECT_TRUE(frm.foco(frm.suma));
+    EXPECT_EQ(frm.cambios, 2);
 }
 
 TEST_F(FormularioTest, APickerGoesBackToItsLastDateAndTellsOnlyOfAnother) {
@@ -157,6 +165,11 @@ TEST_F(FormularioTest, WhatIsPastedGoesThroughTheKeyFilter) {
     EXPECT_EQ(frm.suma.texto(), "1.234,005") << "what the program set stays as it was";
     frm.escribe(frm.edad, std::string(10000, '7') + '\0');
     EXPECT_EQ(frm.edad.texto().size(), 10000U);
+    frm.letras.ponTexto("1ª é");
+    frm.escribe(frm.letras, "1ª è");
+    EXPECT_EQ(frm.letras.texto(), "1ª È") << "letters that share a byte are told apart whole";
+    frm.escribe(frm.letras, "1ê È");
+    EXPECT_EQ(frm.letras.texto(), "1Ê È");
 }
 
 TEST_F(FormularioTest, AnAmountHasAFaceWithoutTheFocus) {

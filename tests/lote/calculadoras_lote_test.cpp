@@ -16,6 +16,8 @@ TEST(CalculadorasLote, EachNameOpensItsOwn) {
         {"it", "INCAPACIDAD TEMPORAL"},
         {"maternidad", "PRESTACION POR MATERNIDAD"},
         {"riesgo", "RIESGO DURANTE EL EMBARAZO"},
+        {"nocontributiva", "JUBILACIÓN E INVALIDEZ NO CONTRIBUTIVAS"},
+        {"familiar", "PRESTACIONES FAMILIARES NO CONTRIBUTIVAS"},
     };
     pruebas::EntornoFalso mundo;
     for (const auto& fila : filas) {

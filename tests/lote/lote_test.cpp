@@ -67,6 +67,9 @@ TEST_F(LoteTest, GivesEachCaseInUseAsAnObjectALine) {
                   kConclusionJson + "\"}");
     EXPECT_EQ(texto.find("\"registro\":2"), std::string::npos) << "a free slot is no case";
     EXPECT_NE(texto.find("{\"registro\":3,\"supuesto\":\"Desborda\",\"error\":\""), std::string::npos);
+    salida.setstate(std::ios::badbit);
+    EXPECT_EQ(ejecutaLote(), kInservible) << "a reader that went away, a full disk";
+    EXPECT_EQ(errores.str(), "No se puede escribir la salida.\n");
 }
 
 TEST_F(LoteTest, OneRecordAloneInText) {
@@ -93,6 +96,11 @@ TEST_F(LoteTest, WhatCannotBeUsedIsToldAndNothingIsMade) {
         {"a free record", [](Opciones& o, const fs::path&) { o.registro = 2; }},
         {"beyond the end", [](Opciones& o, const fs::path&) { o.registro = 9; }},
         {"no such directory for the reports", [](Opciones& o, const fs::path& d) { o.pdf = d / "nada"; }},
+        {"nor a name for one", [](Opciones& o, const fs::path&) { o.pdf = std::string(300, 'a'); }},
+        {"no such directory of data", [](Opciones& o, const fs::path& d) { o.datos = d / "nada"; }},
+        {"a data file is missing", [](Opciones& o, const fs::path&) { o.calculadora = "jubilacion"; }},
+        {"too many records",
+         [](Opciones& o, const fs::path&) { fs::resize_file(o.fichero, 297ULL * 32768); }},
     };
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.historia);
@@ -105,6 +113,18 @@ TEST_F(LoteTest, WhatCannotBeUsedIsToldAndNothingIsMade) {
     EXPECT_TRUE(salida.str().empty());
     EXPECT_FALSE(fs::exists(lugar / "nada.nom"));
     EXPECT_FALSE(fs::exists(lugar / "desemp.nom")) << "the calculator's own file is not touched";
+}
+
+TEST_F(LoteTest, TheFileMayBearAnyNameAnywhere) {
+    opciones.registro = 1;
+    fs::current_path(lugar);
+    for (const fs::path nombre : {"a\\b.nom", "mu\xF1oz.nom", "PARO.NOM", "./sub/../paro.nom"}) {
+        fs::create_directories(lugar / "sub");
+        if (!fs::exists(nombre)) fs::copy_file("paro.nom", nombre);
+        opciones.fichero = nombre;
+        EXPECT_EQ(ejecutaLote(), kTodoCalculado) << nombre;
+    }
+    fs::current_path(fs::temp_directory_path());
 }
 
 TEST_F(LoteTest, RandomBytesAreComputedOrToldNeverACrash) {

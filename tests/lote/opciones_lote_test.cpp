@@ -34,10 +34,18 @@ TEST(OpcionesLote, RefusesWhatItCannotUse) {
         {"desempleo", "a.nom", "--registro", "uno"},
         {"desempleo", "a.nom", "--hoy", "2005-02-30"},
         {"desempleo", "a.nom", "--hoy", "15-06-2005"},
+        {"desempleo", "a.nom", "--hoy", "2005-06-15x"},
+        {"desempleo", "a.nom", "--hoy", "0050-06-15"},
         {"desempleo", "a.nom", "--desconocida"},
         {"desempleo", "a.nom", "--pdf"},
     };
     for (const auto& linea : lineas) EXPECT_THROW(lee(linea), ArgumentoInservible) << linea.size();
+}
+
+TEST(OpcionesLote, AFileNameKeepsItsBytesUtf8OrNot) {
+    for (const std::string nombre : {"a\\b.nom", "mu\xF1oz.nom", "muñoz.nom"}) {
+        EXPECT_EQ(lee({"desempleo", nombre}).fichero, nombre);
+    }
 }
 
 TEST(OpcionesLote, HelpIsNoError) {

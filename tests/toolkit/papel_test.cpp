@@ -245,9 +245,6 @@ TEST_F(PapelTest, AnOverlongLineEndsWithinThePaperWithAllItsLetters) {
 
 TEST_F(PapelTest, ADocumentThrownAwayLeavesNoFile) {
     {
-        DestinoPdf pdf{almacen, fichero("tirado.pdf"), ""};
-        pdf.Print("algo", true);
-        pdf.KillDoc();
         DestinoPdf olvidado{almacen, fichero("olvidado.pdf"), ""};
         olvidado.Print("algo", true);
     }

@@ -10,6 +10,38 @@
 
 namespace orvemo {
 
+namespace {
+
+/// A field's new text beside its old one: only what is new goes through the filter, as it would key by key;
+/// what stood there stays.
+struct Cambio {
+    std::string_view antes;  ///< common to both at the start
+    std::string_view nuevo;
+    std::string_view despues;  ///< common to both at the end
+};
+
+/// Whether the text can't be cut at `pos` without halving a character.
+bool parteCaracter(std::string_view texto, std::size_t pos) {
+    return pos < texto.size() && (static_cast<unsigned char>(texto[pos]) & 0xC0U) == 0x80U;
+}
+
+Cambio comparaTextos(std::string_view viejo, std::string_view texto) {
+    const auto comunes = [](auto a, auto finA, auto b, auto finB) {
+        return static_cast<std::size_t>(std::mismatch(a, finA, b, finB).second - b);
+    };
+    std::size_t antes = comunes(viejo.begin(), viejo.end(), texto.begin(), texto.end());
+    while (antes > 0 && (parteCaracter(texto, antes) || parteCaracter(viejo, antes))) --antes;
+    viejo.remove_prefix(antes);
+    const std::string_view resto = texto.substr(antes);
+    std::size_t despues = comunes(viejo.rbegin(), viejo.rend(), resto.rbegin(), resto.rend());
+    while (despues > 0 && parteCaracter(resto, resto.size() - despues)) --despues;
+    const std::size_t nuevos = resto.size() - despues;
+    return {
+        .antes = texto.substr(0, antes), .nuevo = resto.substr(0, nuevos), .despues = resto.substr(nuevos)};
+}
+
+}  // namespace
+
 Formulario::Formulario(Entorno& entorno) : entorno_{entorno} {}
 
 // --- Declaration
@@ -78,7 +110,7 @@ bool Formulario::foco(Campo& destino) {
     if (destino.def().sinComprobacion) return true;
     if (!dejaActual()) return false;
     actual_ = &destino;
-    entra(destino);
+    DatoMal = false;
     return true;
 }
 
@@ -95,13 +127,14 @@ bool Formulario::dejaActual() {
 }
 
 void Formulario::comprueba(Campo& campo) {
+    const std::string fechaAntes = campo.fechaAsentada_;
     const bool otraFecha = campo.esFecha() && campo.asientaFecha();
     if (campo.def().alSalir) campo.def().alSalir(campo);
-    if (otraFecha && pedido_ == nullptr) reacciona(campo);
-}
-
-void Formulario::entra(Campo& /*campo*/) {
-    DatoMal = false;
+    if (pedido_ != nullptr) {
+        campo.fechaAsentada_ = fechaAntes;  // not left yet: whatever stands there now is still to be told
+    } else if (otraFecha) {
+        reacciona(campo);
+    }
 }
 
 void Formulario::pideFoco(Campo& campo) {
@@ -115,7 +148,7 @@ void Formulario::pideFoco(Campo& campo) {
 void Formulario::enfoca(Campo& campo) {
     if (!campo.enfocable() || !enPantalla(campo)) return;
     actual_ = &campo;
-    entra(campo);
+    DatoMal = false;
     if (vista_ != nullptr) vista_->enfoca(campo);
 }
 
@@ -150,25 +183,10 @@ void Formulario::escribe(Campo& campo, std::string_view texto) {
 }
 
 std::string Formulario::depura(const Campo& campo, std::string_view texto) const {
-    const std::string_view antes = campo.texto();
     std::string admitido{texto};
     if (campo.def().filtro != nullptr) {
-        // Only what is new goes through the filter, as it would key by key; what stood there stays.
-        const auto [a, t] = std::ranges::mismatch(antes, texto);
-        const auto comun = static_cast<std::size_t>(t - texto.begin());
-        std::size_t cola = 0;
-        while (cola + comun < std::min(antes.size(), texto.size()) &&
-               antes[antes.size() - 1 - cola] == texto[texto.size() - 1 - cola]) {
-            ++cola;
-        }
-        const std::string_view final = texto.substr(texto.size() - cola);
-        admitido = texto.substr(0, comun);
-        for (std::size_t pos = comun; pos < texto.size() - cola;) {
-            const char32_t tecla = SiguienteCaracter(texto, pos);
-            const char32_t pasa = campo.def().filtro(tecla, admitido + std::string{final});
-            if (pasa >= U' ') AgregaCaracter(admitido, pasa);
-        }
-        admitido += final;
+        const Cambio cambio = comparaTextos(campo.texto(), texto);
+        admitido = FiltraTexto(campo.def().filtro, cambio.nuevo, cambio.antes, cambio.despues);
     }
     std::erase_if(admitido, [](char c) { return c == '\0' || c == '\r' || c == '\n'; });
     if (campo.def().largo > 0) admitido = PrimerosCaracteres(admitido, campo.def().largo);

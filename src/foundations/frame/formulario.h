@@ -114,7 +114,6 @@ class Formulario {
 
     [[nodiscard]] bool dejaActual();
     void comprueba(Campo& campo);
-    void entra(Campo& campo);
     void pideFoco(Campo& campo);
     void reacciona(Campo& campo);
     [[nodiscard]] std::string depura(const Campo& campo, std::string_view texto) const;

@@ -22,7 +22,6 @@ class Vista {
     virtual void enfoca(const Campo& campo) = 0;
     /// Ends the modal display of the form.
     virtual void oculta() = 0;
-    virtual void cursorEspera(bool espera) = 0;
 
     /// Shows a dialog until it hides itself.
     virtual void muestraModal(GrabaSupuesto& dialogo) = 0;

@@ -225,8 +225,8 @@ std::unique_ptr<FicheroAleatorio> DirectorioAplicacion::abre(std::string_view no
     const std::error_code falta = creaSiFalta(fichero);
     if (falta && acceso == Acceso::Lectura) return std::make_unique<FicheroVacio>();
     if (falta) rechaza(fichero, motivo(falta, "no se puede crear"));
-    const auto modo = acceso == Acceso::Lectura ? std::ios::in : std::ios::in | std::ios::out;
-    return std::make_unique<FicheroEnDisco>(fichero, exigeFlujo(fichero, modo));
+    if (acceso == Acceso::Lectura) return AbreParaLeer(fichero);
+    return std::make_unique<FicheroEnDisco>(fichero, exigeFlujo(fichero, std::ios::in | std::ios::out));
 }
 
 std::string DirectorioAplicacion::leeTodo(std::string_view nombre) const {
@@ -260,6 +260,10 @@ fs::path DirectorioAplicacion::ruta(std::string_view nombre) const {
     for (const auto& parte : fs::path{conBarras}.relative_path())
         encontrada = resuelve(encontrada, parte.string());
     return encontrada;
+}
+
+std::unique_ptr<FicheroAleatorio> AbreParaLeer(const fs::path& ruta) {
+    return std::make_unique<FicheroEnDisco>(ruta, exigeFlujo(ruta, std::ios::in));
 }
 
 bool ExisteArchivo(const fs::path& ruta) {

@@ -60,6 +60,9 @@ class DirectorioAplicacion final : public Almacen {
     std::filesystem::path directorio_;
 };
 
+/// Opens the file of exactly that path, to be read only. Throws FicheroInaccesible.
+[[nodiscard]] std::unique_ptr<FicheroAleatorio> AbreParaLeer(const std::filesystem::path& ruta);
+
 /// True when the path names an existing ordinary file; a directory doesn't count.
 [[nodiscard]] bool ExisteArchivo(const std::filesystem::path& ruta);
 

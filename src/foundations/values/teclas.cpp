@@ -53,14 +53,16 @@ char32_t TeclaMayuscula(char32_t codigo, std::string_view /*texto*/) {
     }
 }
 
-std::string FiltraTexto(FiltroTecla filtro, std::string_view texto) {
-    std::string filtrado;
+std::string FiltraTexto(FiltroTecla filtro, std::string_view texto, std::string_view antes,
+                        std::string_view despues) {
+    const std::string cola{despues};
+    std::string filtrado{antes};
     for (std::size_t pos = 0; pos < texto.size();) {
         const char32_t tecleado = SiguienteCaracter(texto, pos);
-        const char32_t pasa = esControl(tecleado) ? kTragada : filtro(tecleado, filtrado);
+        const char32_t pasa = esControl(tecleado) ? kTragada : filtro(tecleado, filtrado + cola);
         if (pasa != kTragada) AgregaCaracter(filtrado, pasa);
     }
-    return filtrado;
+    return filtrado + cola;
 }
 
 }  // namespace orvemo

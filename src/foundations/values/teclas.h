@@ -18,7 +18,9 @@ using FiltroTecla = char32_t (*)(char32_t codigo, std::string_view texto);
 /// Upper case under the regional settings.
 [[nodiscard]] char32_t TeclaMayuscula(char32_t codigo, std::string_view texto = {});
 
-/// A whole text (pasted, dictated) sent through the filter character by character, as if typed.
-[[nodiscard]] std::string FiltraTexto(FiltroTecla filtro, std::string_view texto);
+/// A text (typed, pasted, dictated) sent through the filter character by character, as if typed between what
+/// stands before and behind it: gives all three together.
+[[nodiscard]] std::string FiltraTexto(FiltroTecla filtro, std::string_view texto, std::string_view antes = {},
+                                      std::string_view despues = {});
 
 }  // namespace orvemo
