@@ -28,7 +28,6 @@ class Hoja final : public orvemo::DestinoImpresion {
         x_ = y_ = 0;
     }
     void EndDoc() override {}
-    void KillDoc() override {}
     [[nodiscard]] float CurrentX() const override { return x_; }
     [[nodiscard]] float CurrentY() const override { return y_; }
     void CurrentX(float x) override { x_ = x; }

@@ -16,15 +16,11 @@ class ImpresoraFalsa final : public Impresora {
     bool cancela = false;          ///< the user cancels the dialog
     bool fallaAlTerminar = false;  ///< the document is refused at its end
 
-    std::vector<std::string> documentos;  ///< names of the documents asked for, in order
-    std::vector<std::string> lineas;      ///< see DestinoGrabador::lineas
-    std::vector<std::string> dibujo;      ///< see DestinoGrabador::dibujo
+    std::vector<std::string> lineas;  ///< see DestinoGrabador::lineas
     std::vector<Operacion> operaciones;
-    bool terminado = false;
 
-    [[nodiscard]] std::unique_ptr<DestinoImpresion> elige(const std::string& documento) override {
+    [[nodiscard]] std::unique_ptr<DestinoImpresion> elige(const std::string& /*documento*/) override {
         if (cancela) return nullptr;
-        documentos.push_back(documento);
         auto grabador = std::make_unique<DestinoGrabador>();
         grabador->fallaAlTerminar = fallaAlTerminar;
         grabador->alCerrar = [this](const DestinoGrabador& cerrado) { guarda(cerrado); };
@@ -34,9 +30,7 @@ class ImpresoraFalsa final : public Impresora {
   private:
     void guarda(const DestinoGrabador& cerrado) {
         lineas = cerrado.lineas();
-        dibujo = cerrado.dibujo();
         operaciones = cerrado.operaciones;
-        terminado = cerrado.terminado;
     }
 };
 

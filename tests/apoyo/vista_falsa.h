@@ -14,19 +14,17 @@ class VistaFalsa final : public Vista {
   public:
     std::vector<std::string> enfocados;  ///< fields that were given the focus, in order
     std::vector<int> pantallas;          ///< panels shown, in order
-    std::vector<std::string> refrescados;
-    bool oculta_ = false;
     std::function<void(GrabaSupuesto&)> alGrabar;
     std::function<void(CargaSupuesto&)> alCargar;
     std::function<void(Formulario&)> alAbrir;
 
-    void refresca(const Campo& campo) override { refrescados.push_back(campo.def().nombre); }
-    void refresca(const Grupo& grupo) override { refrescados.push_back(grupo.def().nombre); }
+    void refresca(const Campo& /*campo*/) override {}
+    void refresca(const Grupo& /*grupo*/) override {}
     void refrescaTitulos() override {}
     void reconstruye(int /*pantalla*/) override {}
     void muestraPantalla(int pantalla) override { pantallas.push_back(pantalla); }
     void enfoca(const Campo& campo) override { enfocados.push_back(campo.def().nombre); }
-    void oculta() override { oculta_ = true; }
+    void oculta() override {}
     void muestraModal(GrabaSupuesto& dialogo) override {
         if (alGrabar) alGrabar(dialogo);
     }

@@ -2,13 +2,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
-#include <cstdlib>
-#include <filesystem>
 #include <functional>
-#include <stdexcept>
 #include <string>
 
 #include "apoyo_casos.h"
@@ -119,69 +114,6 @@ TEST(EscriturasFallidas, AReadOnlyDirectoryListsAndSaysWhyItDoesNotSave) {
     EXPECT_FALSE(prueba.almacen.existe("desemp.nom"));
     EXPECT_THAT(fallo([&] { prueba.archivo.agrega(kNuevo); }), HasSubstr("no se puede escribir"));
     EXPECT_THAT(fallo([&] { prueba.archivo.borra(1); }), HasSubstr("no se puede escribir"));
-}
-
-/// A real directory, removed at the end.
-class EnDiscoTest : public testing::Test {
-  protected:
-    EnDiscoTest() {
-        std::string plantilla = testing::TempDir() + "orvemo-casos-XXXXXX";
-        if (mkdtemp(plantilla.data()) == nullptr) throw std::runtime_error{"no temporary directory"};
-        carpeta = plantilla;
-    }
-    ~EnDiscoTest() override { std::filesystem::remove_all(carpeta); }
-
-    std::filesystem::path carpeta;
-};
-
-/// While it lives, no file of the process may grow beyond so many bytes: the system itself cuts writes short.
-class TopeDeLongitud {
-  public:
-    explicit TopeDeLongitud(rlim_t bytes) : senal_{std::signal(SIGXFSZ, SIG_IGN)} {
-        getrlimit(RLIMIT_FSIZE, &antes_);
-        const rlimit tope{bytes, antes_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tope);
-    }
-    TopeDeLongitud(const TopeDeLongitud&) = delete;
-    TopeDeLongitud& operator=(const TopeDeLongitud&) = delete;
-    ~TopeDeLongitud() {
-        setrlimit(RLIMIT_FSIZE, &antes_);
-        std::signal(SIGXFSZ, senal_);
-    }
-
-  private:
-    rlimit antes_{};
-    void (*senal_)(int);
-};
-
-TEST_F(EnDiscoTest, WritesThatTheSystemCutsShortLeaveTheFileAsItWas) {
-    DirectorioAplicacion almacen{carpeta};
-    ArchivoSupuestos archivo{almacen, "desemp.nom", kLongitud};
-    almacen.sustituye("desemp.nom", kTres);
-    const auto conTope = [&](std::size_t bytes, auto&& operacion) {
-        const TopeDeLongitud tope{bytes};
-        return fallo(operacion);
-    };
-    for (std::size_t byte = 0; byte < kLongitud; ++byte) {
-        ASSERT_EQ(conTope(kTres.size() + byte, [&] { archivo.agrega(kNuevo); }), kComoEstaba) << byte;
-        ASSERT_EQ(almacen.leeTodo("desemp.nom"), kTres) << byte;
-        ASSERT_EQ(conTope(kLongitud + byte, [&] { archivo.sobrescribe(2, kNuevo); }), kComoEstaba) << byte;
-        ASSERT_EQ(almacen.leeTodo("desemp.nom"), kTres) << byte;
-    }
-    EXPECT_EQ(archivo.agrega(kNuevo), 4);
-}
-
-TEST_F(EnDiscoTest, ADeviceWithoutRoomIsTold) {
-    std::filesystem::create_symlink("/dev/full", carpeta / "desemp.nom");
-    DirectorioAplicacion almacen{carpeta};
-    ArchivoSupuestos archivo{almacen, "desemp.nom", kLongitud};
-    EXPECT_EQ(fallo([&] { archivo.agrega(kNuevo); }), kComoEstaba);
-}
-
-TEST_F(EnDiscoTest, TheTwoSpellingsOfAFileAreOneFile) {
-    DirectorioAplicacion almacen{carpeta};
-    ArchivoSupuestos{almacen, "Muerte.nom", kLongitud}.agrega(kNuevo);
-    EXPECT_EQ((ArchivoSupuestos{almacen, "muerte.nom", kLongitud}.cuenta()), 1);
 }
 
 }  // namespace

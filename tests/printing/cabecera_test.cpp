@@ -40,16 +40,6 @@ TEST_F(CabeceraTest, FirstPageHasLogoTitleBarAndTwoRules) {
     EXPECT_EQ(papel.CurrentY(), 4.5F);
 }
 
-TEST_F(CabeceraTest, NextPageHasNoTitleAndNoBar) {
-    rutinas.ImprimeCabecera(1, "DESEMPLEO");
-    papel.operaciones.clear();
-    rutinas.ImprimeCabecera();
-    EXPECT_THAT(papel.dibujo(), ElementsAre("NewPage", "Imagen 0.6,0.1 de 6,2 logo.bmp", "Linea 0,3.2 21,3.2",
-                                            "Linea 0,26.4 21,26.4"));
-    EXPECT_EQ(rutinas.NumeroPagina(), 2);
-    EXPECT_EQ(papel.CurrentY(), 4.5F);
-}
-
 TEST_F(CabeceraTest, ABreakOfTheRoutineCanRepeatTheTitle) {
     rutinas.ImprimeCabecera(1, "UNO");
     papel.operaciones.clear();
@@ -89,12 +79,6 @@ TEST_F(CabeceraTest, ASheetTooShortForAnyBodyStillEnds) {
     rutinas.ImprimeCabecera(1, "TITULO");
     rutinas.ImprimeTexto("línea", 1.0F, 0.5F);
     EXPECT_THAT(papel.lineas(), ElementsAre("TITULO", "línea"));
-}
-
-TEST_F(CabeceraTest, WithoutLogoThePageIsDrawnAllTheSame) {
-    rutinas.ponLogo({});
-    rutinas.ImprimeCabecera(1);
-    EXPECT_THAT(papel.dibujo(), ElementsAre("Linea 0,3.2 21,3.2", "Linea 0,26.4 21,26.4"));
 }
 
 TEST_F(CabeceraTest, ALogoWithoutHeightIsRefused) {

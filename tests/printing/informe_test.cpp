@@ -57,12 +57,6 @@ const std::vector<std::string> kInforme{
     "EndDoc",
 };
 
-TEST_F(InformeTest, AReportFromTitleToEnd) {
-    imprime(papel);
-    EXPECT_EQ(papel.dibujo(), kInforme);
-    EXPECT_TRUE(papel.terminado);
-}
-
 TEST_F(InformeTest, APrinterThatFailsAnywhereSaysSoAndTheNextReportIsWhole) {
     for (std::size_t n = 0;; ++n) {
         DestinoGrabador averiado;
@@ -84,12 +78,6 @@ TEST_F(InformeTest, APrinterThatFailsAnywhereSaysSoAndTheNextReportIsWhole) {
     }
 }
 
-TEST_F(InformeTest, ADocumentRefusedAtItsEndIsReported) {
-    papel.fallaAlTerminar = true;
-    EXPECT_THROW(imprime(papel), FalloImpresion);
-    EXPECT_FALSE(papel.terminado);
-}
-
 // --- Page breaks: the last place where a line may start is 25.69665 cm
 
 TEST_F(InformeTest, ALineThatBeginsPastTheBodyGoesToANewPageWithoutTitle) {
@@ -103,14 +91,6 @@ TEST_F(InformeTest, ALineThatBeginsPastTheBodyGoesToANewPageWithoutTitle) {
                             "Linea 0,3.2 21,3.2", "Linea 0,26.4 21,26.4", "Texto 1,4.5 Arial 10 «pasa»"));
     EXPECT_EQ(rutinas.NumeroPagina(), 2);
     EXPECT_EQ(papel.CurrentY(), 5.0F);
-}
-
-TEST_F(InformeTest, AnEmptyLinePastTheBodyStartsThePageToo) {
-    rutinas.ImprimeCabecera(1);
-    rutinas.PonPosicion(1.0F, 25.7F);
-    rutinas.ImprimeTexto("", 1.0F, 1.0F);
-    EXPECT_EQ(papel.paginas(), 2);
-    EXPECT_EQ(papel.CurrentY(), 5.5F);
 }
 
 TEST_F(InformeTest, TheEndOfThePageIsComparedInSinglePrecision) {

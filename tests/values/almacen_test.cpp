@@ -241,14 +241,6 @@ TEST_F(EnDirectorio, AReplacementKeepsLinksAndPermissions) {
               fs::status(carpeta / "datos/config.nom").permissions());
 }
 
-TEST_F(EnDirectorio, ADeviceIsNeverReplaced) {
-    fs::create_symlink("/dev/full", carpeta / "config.nom");
-    DirectorioAplicacion directorio{carpeta};
-    EXPECT_EQ(noSePuedeUsar("config.nom", "no es un fichero corriente"),
-              fallo([&] { directorio.sustituye("config.nom", "x"); }));
-    EXPECT_TRUE(fs::is_symlink(carpeta / "config.nom"));
-}
-
 TEST_F(EnDirectorio, WholeFilesAreReadWhateverTheirSize) {
     DirectorioAplicacion directorio{carpeta};
     for (const std::size_t largo : {0U, 1U, 65535U, 65536U, 65537U, 200000U}) {

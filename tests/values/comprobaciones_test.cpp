@@ -33,15 +33,6 @@ class Comprobaciones : public testing::Test {
     bool DatoMal = false;
 };
 
-TEST_F(Comprobaciones, AGoodDateIsRewritten) {
-    CampoFalso campo{" 1/2/04"};
-    CompruebaFecha(campo, DatoMal, mensajes, reloj);
-    EXPECT_EQ("01-02-2004", campo.texto());
-    EXPECT_FALSE(DatoMal);
-    EXPECT_EQ(0, campo.focos);
-    EXPECT_EQ(Dichos{}, mensajes.dichos);
-}
-
 TEST_F(Comprobaciones, ABadDateIsToldAndTodayTakesItsPlace) {
     for (const char* texto : {"", "31-02-2005", "ayer"}) {
         CampoFalso campo{texto};

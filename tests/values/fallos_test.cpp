@@ -32,12 +32,5 @@ TEST(Fallos, TellTheUserWhatHappened) {
     for (const auto& caso : casos) EXPECT_EQ(caso.esperado, caso.fallo.what());
 }
 
-TEST(Fallos, CarryTheFacts) {
-    EXPECT_EQ(1e300, DesbordeNumerico{1e300}.valor);
-    EXPECT_EQ("doce", (TextoIlegible{"doce", "número"}.texto));
-    EXPECT_EQ("ipc.txt", (FicheroMalFormado{"ipc.txt", 12, "corto"}.nombre));
-    EXPECT_EQ(12, (FicheroMalFormado{"ipc.txt", 12, "corto"}.linea));
-}
-
 }  // namespace
 }  // namespace orvemo

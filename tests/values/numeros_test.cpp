@@ -20,11 +20,9 @@ TEST(LeeNumero, TakesTheLongestPrefixWithAPoint) {
         {"a comma ends the number", "12,5", 12},
         {"thousands marks are points", "1.679,10", 1.679},
         {"a second point ends the number", "1.2.3", 1.2},
-        {"letters", "programa", 0},
         {"nothing", "", 0},
         {"letters behind the digits", "85 puntos", 85},
         {"blanks anywhere", " - 1 2\t3 . 5 ", -123.5},
-        {"plus sign", "+7", 7},
         {"two signs", "--7", 0},
         {"sign alone", "-", 0},
         {"point alone", ".", 0},
@@ -38,9 +36,7 @@ TEST(LeeNumero, TakesTheLongestPrefixWithAPoint) {
         {"exponent without number", "e5", 0},
         {"hexadecimal", "0x10", 0},
         {"nan is a word", "nan", 0},
-        {"inf is a word", "inf", 0},
         {"infinity with sign is a word", "-infinity", 0},
-        {"NULs of a field never written", "\0\0\0", 0},
         {"too small for a double", "1e-999", 0},
         {"too small, with a long exponent", "1e-99999999999999999999", 0},
         {"zero with a huge exponent", "0e99999999999999999999", 0},
@@ -71,11 +67,9 @@ TEST(LeeNumeroRegional, ReadsTheSpanishMarks) {
         {"a point is never a decimal mark", "12.5", 125},
         {"misplaced thousands marks", "1.2.34.", 1234},
         {"blanks at both ends", "  38 ", 38},
-        {"minus", "-3", -3},
         {"plus", "+3,5", 3.5},
         {"no digit before the comma", ",5", 0.5},
         {"no digit behind the comma", "5,", 5},
-        {"leading zeros", "007", 7},
     };
     for (const auto& caso : casos) {
         EXPECT_EQ(caso.esperado, LeeNumeroRegional(caso.texto)) << caso.titulo;
@@ -99,15 +93,12 @@ TEST(LeeNumeroRegional, RefusesTheRestAndDobleDeMakesItZero) {
         {"thousands mark behind the comma", "1,234.5"},
         {"thousands mark before the digits", ".5"},
         {"sign alone", "-"},
-        {"comma alone", ","},
         {"sign behind", "3-"},
         {"two signs", "-+3"},
         {"blank within", "1 000"},
         {"exponent", "1e5"},
-        {"huge exponent", "1e999"},
         {"too large for a double", demasiadoLargo},
         {"hexadecimal", "0x10"},
-        {"nan is a word", "nan"},
         {"inf is a word", "-inf"},
         {"NULs of a field never written", nulos},
     };
@@ -127,26 +118,12 @@ TEST(LeeNumeroRegional, ObeysOtherSettings) {
     EXPECT_THROW((void)LeeNumeroRegional("1.679,10", ingleses), TextoIlegible);
 }
 
-TEST(LectoresDeNumeros, DifferOnPurpose) {
-    struct {
-        const char* texto;
-        double sinAjustes, conComaAPunto, regional;
-    } const casos[] = {
-        {"1679,10", 1679, 1679.1, 1679.1},
-        {"1.679,10", 1.679, 1.679, 1679.1},
-        {"1679.10", 1679.1, 1679.1, 167910},
-    };
-    for (const auto& caso : casos) {
-        EXPECT_EQ(caso.sinAjustes, LeeNumero(caso.texto)) << caso.texto;
-        EXPECT_EQ(caso.conComaAPunto, ValComa(caso.texto)) << caso.texto;
-        EXPECT_EQ(caso.regional, DobleDe(caso.texto)) << caso.texto;
-    }
-}
-
 TEST(ComaAPunto, ChangesTheFirstCommaOnly) {
     EXPECT_EQ("1.679.10", ComaAPunto("1.679,10"));
     EXPECT_EQ("1.2,3", ComaAPunto("1,2,3"));
     EXPECT_EQ("38", ComaAPunto("38"));
+    EXPECT_EQ(1679.1, ValComa("1679,10"));
+    EXPECT_EQ(1.679, ValComa("1.679,10")) << "no thousands mark may be there";
 }
 
 TEST(EnteroDe, RoundsHalvesToEvenAndSwallowsEveryFailure) {
@@ -158,7 +135,6 @@ TEST(EnteroDe, RoundsHalvesToEvenAndSwallowsEveryFailure) {
         {"half to even, down", "2,5", 2},
         {"half to even, up", "3,5", 4},
         {"a number", 2.5, 2},
-        {"a whole number", 38, 38},
         {"thousands mark", "1.000", 1000},
         {"never assigned", Valor{}, 0},
         {"null", Nulo{}, 0},
@@ -173,16 +149,6 @@ TEST(EnteroDe, RoundsHalvesToEvenAndSwallowsEveryFailure) {
     EXPECT_EQ(2, LeeEnteroRegional("2,5"));
     EXPECT_THROW((void)LeeEnteroRegional("2147483647,5"), DesbordeNumerico);
     EXPECT_THROW((void)LeeEnteroRegional("dos"), TextoIlegible);
-}
-
-TEST(DobleDe, TakesNumbersAsTheyAre) {
-    EXPECT_EQ(1.0 / 3, DobleDe(1.0 / 3));
-    EXPECT_EQ(38, DobleDe(38));
-    EXPECT_EQ(0, DobleDe(Nulo{}));
-    EXPECT_EQ(0, DobleDe(std::numeric_limits<double>::infinity()));
-    EXPECT_TRUE(EsNumero(38));
-    EXPECT_FALSE(EsNumero(Valor{}));
-    EXPECT_FALSE(EsNumero(std::numeric_limits<double>::quiet_NaN()));
 }
 
 TEST(LimiteDe, NarrowsToSinglePrecision) {
