@@ -115,6 +115,7 @@ void VistaMenu::cargaMenuFoto(const std::string& foto) {
 Imagen VistaMenu::cargaLogoOrvemo(const std::string& foto) {
     const QPixmap logo = cargaImagen(almacen_, foto);
     logo_->ponImagen(encajada(logo, logo_->size(), devicePixelRatioF()));
+    QApplication::setWindowIcon(QIcon{logo});
     return {foto, static_cast<double>(logo.width()), static_cast<double>(logo.height())};
 }
 
