@@ -56,8 +56,8 @@ class DivideFrm final : public CalculadoraDe<RegistroMinimo, kMinimo> {
     void calcula(Dictamen& dictamen) override {
         dictamen.vacia();
         dictamen.linea("Doce entre lo dado.");
-        dictamen.linea("Son ", RedondeaPar(Cociente(12, caso_.divisor)), ".");
         dictamen.ConDerecho = true;
+        dictamen.linea("Son ", RedondeaPar(Cociente(12, caso_.divisor)), ".");
     }
     [[nodiscard]] bool grabaDatosIncompletos() const override { return incompletos; }
 
@@ -194,6 +194,7 @@ TEST_F(CalculadoraTest, ACaseThatCannotBeShownLeavesTheOneOnScreen) {
     EXPECT_EQ(mundo.mensajes.dichos.size(), 1U);
     EXPECT_EQ(frm.Nombre.texto(), "Ana");
     EXPECT_EQ(frm.divisor.texto(), "4");
+    EXPECT_EQ(frm.caso().divisor, 0) << "nor does anything of it reach the case in hand";
 }
 
 TEST_F(CalculadoraTest, PrintingSaysHowItEnded) {

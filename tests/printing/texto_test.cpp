@@ -152,6 +152,14 @@ TEST_F(TextoTest, AFragmentEndsAsManyLinesAsTold) {
     EXPECT_THAT(papel.dibujo(), ElementsAre("Texto 1,6 Arial 12 «ab» fin"));
 }
 
+TEST_F(TextoTest, AFragmentPastTheBodyStartsAPage) {
+    empiezaCuerpo();
+    rutinas.PonPosicion(3.0F, 25.8F);
+    rutinas.ImprimeTrozo("ab", 0);
+    EXPECT_EQ(papel.paginas(), 2);
+    EXPECT_EQ(papel.dibujo().back(), "Texto 0,4.5 Arial 12 «ab»");
+}
+
 // --- Drawing without the engine
 
 TEST_F(TextoTest, ALineIsDrawnUnlessAnErrorIsFlagged) {
