@@ -45,6 +45,7 @@ class TextoLargoCampo final : public QPlainTextEdit, public Control {
         setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         setMinimumSize(px(kAnchoTexto), px(kAltoTexto));
         setViewportMargins(px(kRellenoCampo), px(kRellenoCampo), px(kRellenoCampo), px(kRellenoCampo));
+        ponNombreAccesible(QStringLiteral("Conclusiones"));  // they stand under no label
     }
     [[nodiscard]] QWidget& widget() override { return *this; }
 
