@@ -72,12 +72,9 @@ struct Ejemplos {
     void (*escribe)(Almacen&);
 };
 constexpr std::array kEjemplos{
-    Ejemplos{"jubila.nom", ejemplosJubilacion},
-    Ejemplos{"desemp.nom", desempleo},
-    Ejemplos{"ILT.nom", ejemplosIncapacidadTemporal},
-    Ejemplos{"Mater.nom", ejemplosMaternidad},
-    Ejemplos{"RiesgoEm.nom", ejemplosRiesgoEmbarazo},
-    Ejemplos{"nocont.nom", noContributiva},
+    Ejemplos{"jubila.nom", ejemplosJubilacion},       Ejemplos{"desemp.nom", desempleo},
+    Ejemplos{"ILT.nom", ejemplosIncapacidadTemporal}, Ejemplos{"Mater.nom", ejemplosMaternidad},
+    Ejemplos{"RiesgoEm.nom", ejemplosRiesgoEmbarazo}, Ejemplos{"nocont.nom", noContributiva},
 };
 
 }  // namespace

@@ -79,7 +79,6 @@ void DialogoSupuestos::borraElegida() {
 }
 
 // --- GrabaSupuesto
-// -------------------------------------------------------------------------------------------------
 
 void GrabaSupuesto::Inicia(const std::string& nombre) {
     ponNombre(std::string{Recorta(nombre)});
@@ -124,7 +123,6 @@ void GrabaSupuesto::BotonBorrar() {
 }
 
 // --- CargaSupuesto
-// -------------------------------------------------------------------------------------------------
 
 void CargaSupuesto::Inicia() {
     CargaLista();

@@ -70,7 +70,6 @@ Calculadora::Calculadora(Entorno& entorno, DefCalculadora def)
 }
 
 // --- Set-up and panels
-// -------------------------------------------------------------------------------------------
 
 void Calculadora::Inicia() {
     {
@@ -118,7 +117,6 @@ std::string Calculadora::subtituloDe(int pantalla) const {
 }
 
 // --- Conclusions
-// -------------------------------------------------------------------------------------------------
 
 bool Calculadora::DatosTomaPantalla() {
     try {
@@ -152,7 +150,6 @@ void Calculadora::ponVeredicto(const Dictamen& dictamen) {
 }
 
 // --- Cases
-// -------------------------------------------------------------------------------------------------------
 
 ArchivoSupuestos Calculadora::archivo() const {
     return {entorno().almacen, def_.fichero, longitudRegistro()};
@@ -216,7 +213,6 @@ bool Calculadora::DatosGrabaRegistro(int r) {
 }
 
 // --- Report
-// ------------------------------------------------------------------------------------------------------
 
 void Calculadora::imprime() {
     const auto destino = entorno().impresora.elige(Titulo());

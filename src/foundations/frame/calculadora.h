@@ -62,7 +62,6 @@ class Calculadora : public Formulario {
 
   protected:
     // --- What a calculator tells
-    // -------------------------------------------------------------------------------
 
     /// Fields to case buffer, in the record's order. Throws Fallo on a text that can't be read.
     virtual void tomaCampos() = 0;

@@ -45,7 +45,6 @@ Cambio comparaTextos(std::string_view viejo, std::string_view texto) {
 Formulario::Formulario(Entorno& entorno) : entorno_{entorno} {}
 
 // --- Declaration
-// -------------------------------------------------------------------------------------------------
 
 Campo& Formulario::nuevo(DefCampo def) {
     const MientrasCarga mientras{Cargando};
@@ -85,7 +84,6 @@ void Formulario::ponSubtitulo(std::string subtitulo) {
 }
 
 // --- What can be asked
-// -------------------------------------------------------------------------------------------
 
 Campo& Formulario::campo(std::string_view nombre, int indice) {
     const auto encontrado = std::ranges::find_if(campos_, [&](const Campo& campo) {
@@ -101,7 +99,6 @@ bool Formulario::enPantalla(const Campo& campo) const {
 }
 
 // --- Focus and checks
-// --------------------------------------------------------------------------------------------
 
 bool Formulario::foco(Campo& destino) {
     if (comprobando_) return false;
@@ -164,7 +161,6 @@ void Formulario::reacciona(Campo& campo) {
 }
 
 // --- Events
-// ------------------------------------------------------------------------------------------------------
 
 bool Formulario::pulsa(Campo& boton) {
     if (comprobando_ || !boton.enfocable() || !enPantalla(boton)) return false;
@@ -220,7 +216,6 @@ char32_t Formulario::teclea(const Campo& campo, char32_t tecla) const {
 }
 
 // --- State
-// -------------------------------------------------------------------------------------------------------
 
 void Formulario::muestra(int pantalla) {
     PantallaActual_ = pantalla;
@@ -244,7 +239,6 @@ bool Formulario::protegido(const std::function<void()>& accion) {
 }
 
 // --- Instantanea
-// -------------------------------------------------------------------------------------------------
 
 Instantanea::Instantanea(Formulario& formulario) {
     for (Campo& campo : formulario.campos()) {

@@ -29,7 +29,6 @@ class Formulario {
     virtual void cierra() { oculta(); }
 
     // --- What the renderer reads
-    // -----------------------------------------------------------------------------
 
     [[nodiscard]] const std::deque<Campo>& campos() const { return campos_; }
     [[nodiscard]] std::deque<Campo>& campos() { return campos_; }
@@ -51,8 +50,8 @@ class Formulario {
     void ponVista(Vista* vista) { vista_ = vista; }
 
     // --- Events: what the user does
-    // --------------------------------------------------------------------------- None of them throws: a
-    // failure is told in a box and the form stays as it is.
+    //
+    // None of them throws: a failure is told in a box and the form stays as it is.
 
     /// The focus moved to `destino`. The field left is checked first; if it fails, the focus goes back. True
     /// when `destino` has it now.
@@ -73,7 +72,6 @@ class Formulario {
 
   protected:
     // --- Declaration
-    // ------------------------------------------------------------------------------------------
 
     Campo& nuevo(DefCampo def);
     Grupo& nuevoGrupo(DefGrupo def);
@@ -88,7 +86,6 @@ class Formulario {
     void ponNumPantallas(int n) { numPantallas_ = n; }
 
     // --- State shared with the screens
-    // -------------------------------------------------------------------------
 
     /// Shows a panel and hides the others; focus and calculations are the derived screen's matter.
     void muestra(int pantalla);
