@@ -5,9 +5,9 @@
 
 #include <QApplication>
 
-#include "benefits/desemp_frm.h"
+#include "benefits/desempleo/desemp_frm.h"
 #include "foundations/values/almacen.h"
-#include "pensions/pension_frm.h"
+#include "pensions/jubilacion/pension_frm.h"
 #include "toolkit/vista_formulario.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-#include "benefits/desempleo.h"
+#include "benefits/desempleo/desempleo.h"
 #include "foundations/values/dictamen.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "foundations/values/dictamen.h"
-#include "pensions/jubilacion.h"
+#include "pensions/jubilacion/jubilacion.h"
 
 namespace {
 

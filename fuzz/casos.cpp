@@ -12,17 +12,17 @@
 
 #include "apoyo/almacen_memoria.h"
 #include "apoyo/mensajes_falsos.h"
-#include "benefits/desempleo_registro.h"
-#include "benefits/familiar_registro.h"
-#include "benefits/incapacidad_temporal_registro.h"
-#include "benefits/maternidad_registro.h"
-#include "benefits/nocontributiva_registro.h"
-#include "benefits/riesgo_embarazo_registro.h"
+#include "benefits/desempleo/desempleo_registro.h"
+#include "benefits/familiar/familiar_registro.h"
+#include "benefits/it/incapacidad_temporal_registro.h"
+#include "benefits/maternidad/maternidad_registro.h"
+#include "benefits/nocontributiva/nocontributiva_registro.h"
+#include "benefits/riesgo/riesgo_embarazo_registro.h"
 #include "cases/archivo_supuestos.h"
 #include "cases/dialogos.h"
 #include "exige.h"
 #include "foundations/values/textos.h"
-#include "pensions/jubilacion_registro.h"
+#include "pensions/jubilacion/jubilacion_registro.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include "apoyo/entorno_falso.h"
 #include "exige.h"
 #include "foundations/values/fallos.h"
-#include "pensions/pension_frm.h"
+#include "pensions/jubilacion/pension_frm.h"
 
 namespace {
 

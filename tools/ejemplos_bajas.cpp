@@ -1,6 +1,6 @@
-#include "benefits/incapacidad_temporal_registro.h"
-#include "benefits/maternidad_registro.h"
-#include "benefits/riesgo_embarazo_registro.h"
+#include "benefits/it/incapacidad_temporal_registro.h"
+#include "benefits/maternidad/maternidad_registro.h"
+#include "benefits/riesgo/riesgo_embarazo_registro.h"
 #include "cases/archivo_supuestos.h"
 #include "ejemplos.h"
 

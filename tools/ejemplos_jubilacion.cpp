@@ -2,7 +2,7 @@
 
 #include "cases/archivo_supuestos.h"
 #include "ejemplos.h"
-#include "pensions/jubilacion_base.h"
+#include "pensions/jubilacion/jubilacion_base.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include <iostream>
 #include <string_view>
 
-#include "benefits/desempleo_registro.h"
-#include "benefits/nocontributiva_registro.h"
+#include "benefits/desempleo/desempleo_registro.h"
+#include "benefits/nocontributiva/nocontributiva_registro.h"
 #include "cases/archivo_supuestos.h"
 #include "ejemplos.h"
 #include "foundations/values/almacen.h"

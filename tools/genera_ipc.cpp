@@ -12,7 +12,7 @@
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 #include "foundations/values/textos.h"
-#include "pensions/tablas_pensiones.h"
+#include "pensions/comun/tablas_pensiones.h"
 
 namespace {
 

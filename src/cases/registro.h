@@ -95,15 +95,16 @@ struct EnRegistro<std::array<T, N>> {
     }
 };
 
-/// One line of a layout: at this offset lies this member.
+/// One line of a layout: at this offset lies this member, known to the text form of the record by this name.
 template <typename Registro, typename T>
 struct Tramo {
     std::size_t posicion;
+    std::string_view nombre;
     T Registro::*campo;
     static constexpr std::size_t kAncho = EnRegistro<T>::kAncho;
 };
 template <typename Registro, typename T>
-Tramo(int, T Registro::*) -> Tramo<Registro, T>;
+Tramo(int, const char*, T Registro::*) -> Tramo<Registro, T>;
 
 /// The layout of a record: where each member lies, without gap or overlap.
 template <typename Registro, typename... T>

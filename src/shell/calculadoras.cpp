@@ -4,13 +4,13 @@
 #include <memory>
 #include <string_view>
 
-#include "benefits/desemp_frm.h"
-#include "benefits/familiar_frm.h"
-#include "benefits/ilt_frm.h"
-#include "benefits/mater_frm.h"
-#include "benefits/nocon_frm.h"
-#include "benefits/riesgo_embarazo_frm.h"
-#include "pensions/pension_frm.h"
+#include "benefits/desempleo/desemp_frm.h"
+#include "benefits/familiar/familiar_frm.h"
+#include "benefits/it/ilt_frm.h"
+#include "benefits/maternidad/mater_frm.h"
+#include "benefits/nocontributiva/nocon_frm.h"
+#include "benefits/riesgo/riesgo_embarazo_frm.h"
+#include "pensions/jubilacion/pension_frm.h"
 #include "shell/fondo_frm.h"
 #include "shell/presenta_frm.h"
 

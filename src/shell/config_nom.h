@@ -23,9 +23,9 @@ struct RegistroConfig {
     void ponActiva(bool activa) { Activa = activa ? -1 : 0; }
 };
 
-inline constexpr Diseno kDisenoConfig{256, Tramo{0, &RegistroConfig::Numero},
-                                      Tramo{4, &RegistroConfig::Activa}, Tramo{6, &RegistroConfig::Texto},
-                                      Tramo{254, &RegistroConfig::Orden}};
+inline constexpr Diseno kDisenoConfig{
+    256, Tramo{0, "Numero", &RegistroConfig::Numero}, Tramo{4, "Activa", &RegistroConfig::Activa},
+    Tramo{6, "Texto", &RegistroConfig::Texto}, Tramo{254, "Orden", &RegistroConfig::Orden}};
 
 inline constexpr std::int32_t kNumeroTitulo = 999;
 inline constexpr int kRegistroTitulo = 1;

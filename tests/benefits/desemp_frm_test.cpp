@@ -1,4 +1,4 @@
-#include "benefits/desemp_frm.h"
+#include "benefits/desempleo/desemp_frm.h"
 
 #include "apoyo/pantalla_abierta.h"
 

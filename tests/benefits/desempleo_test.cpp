@@ -1,4 +1,4 @@
-#include "benefits/desempleo.h"
+#include "benefits/desempleo/desempleo.h"
 
 #include <gtest/gtest.h>
 

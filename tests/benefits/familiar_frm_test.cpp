@@ -1,4 +1,4 @@
-#include "benefits/familiar_frm.h"
+#include "benefits/familiar/familiar_frm.h"
 
 #include "apoyo/pantalla_abierta.h"
 

@@ -1,4 +1,4 @@
-#include "benefits/ilt_frm.h"
+#include "benefits/it/ilt_frm.h"
 
 #include "apoyo/pantalla_abierta.h"
 

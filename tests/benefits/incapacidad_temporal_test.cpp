@@ -1,4 +1,4 @@
-#include "benefits/incapacidad_temporal.h"
+#include "benefits/it/incapacidad_temporal.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "benefits/mater_frm.h"
+#include "benefits/maternidad/mater_frm.h"
 
 #include "apoyo/pantalla_abierta.h"
 

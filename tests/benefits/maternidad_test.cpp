@@ -1,4 +1,4 @@
-#include "benefits/maternidad.h"
+#include "benefits/maternidad/maternidad.h"
 
 #include <gtest/gtest.h>
 

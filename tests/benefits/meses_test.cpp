@@ -6,9 +6,9 @@
 #include <array>
 #include <string>
 
-#include "benefits/incapacidad_temporal.h"
-#include "benefits/maternidad.h"
-#include "benefits/riesgo_embarazo.h"
+#include "benefits/it/incapacidad_temporal.h"
+#include "benefits/maternidad/maternidad.h"
+#include "benefits/riesgo/riesgo_embarazo.h"
 
 namespace orvemo {
 namespace {

@@ -1,4 +1,4 @@
-#include "benefits/nocon_frm.h"
+#include "benefits/nocontributiva/nocon_frm.h"
 
 #include "apoyo/pantalla_abierta.h"
 

@@ -1,4 +1,4 @@
-#include "benefits/nocontributiva.h"
+#include "benefits/nocontributiva/nocontributiva.h"
 
 #include <gtest/gtest.h>
 

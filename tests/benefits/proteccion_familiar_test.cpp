@@ -1,4 +1,4 @@
-#include "benefits/proteccion_familiar.h"
+#include "benefits/familiar/proteccion_familiar.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "benefits/riesgo_embarazo_frm.h"
+#include "benefits/riesgo/riesgo_embarazo_frm.h"
 
 #include "apoyo/pantalla_abierta.h"
 

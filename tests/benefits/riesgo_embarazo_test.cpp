@@ -1,4 +1,4 @@
-#include "benefits/riesgo_embarazo.h"
+#include "benefits/riesgo/riesgo_embarazo.h"
 
 #include <gtest/gtest.h>
 

@@ -21,16 +21,16 @@ struct Muestra {
     Texto<3> reservado;
 };
 constexpr Diseno kMuestra{60,
-                          Tramo{0, &Muestra::Estado},
-                          Tramo{1, &Muestra::Nombre},
-                          Tramo{11, &Muestra::Edad},
-                          Tramo{15, &Muestra::Hijos},
-                          Tramo{17, &Muestra::Tipo},
-                          Tramo{21, &Muestra::Suma},
-                          Tramo{29, &Muestra::Alta},
-                          Tramo{37, &Muestra::Bases},
-                          Tramo{53, &Muestra::Claves},
-                          Tramo{57, &Muestra::reservado}};
+                          Tramo{0, "Estado", &Muestra::Estado},
+                          Tramo{1, "Nombre", &Muestra::Nombre},
+                          Tramo{11, "Edad", &Muestra::Edad},
+                          Tramo{15, "Hijos", &Muestra::Hijos},
+                          Tramo{17, "Tipo", &Muestra::Tipo},
+                          Tramo{21, "Suma", &Muestra::Suma},
+                          Tramo{29, "Alta", &Muestra::Alta},
+                          Tramo{37, "Bases", &Muestra::Bases},
+                          Tramo{53, "Claves", &Muestra::Claves},
+                          Tramo{57, "reservado", &Muestra::reservado}};
 
 std::string imagen(std::initializer_list<int> bytes) {
     std::string texto;

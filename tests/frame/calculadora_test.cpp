@@ -19,9 +19,10 @@ struct RegistroMinimo {
     Texto<80> Nombre;
     double divisor = 0;
 };
-inline constexpr Diseno kMinimo{169, Tramo{0, &RegistroMinimo::Estado},
-                                Tramo{1, &RegistroMinimo::NombreSupuesto}, Tramo{81, &RegistroMinimo::Nombre},
-                                Tramo{161, &RegistroMinimo::divisor}};
+inline constexpr Diseno kMinimo{169, Tramo{0, "Estado", &RegistroMinimo::Estado},
+                                Tramo{1, "NombreSupuesto", &RegistroMinimo::NombreSupuesto},
+                                Tramo{81, "Nombre", &RegistroMinimo::Nombre},
+                                Tramo{161, "divisor", &RegistroMinimo::divisor}};
 
 /// Divides 12 by a number: the smallest calculator that can fail in mid calculation.
 class DivideFrm final : public CalculadoraDe<RegistroMinimo, kMinimo> {

@@ -10,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-#include "benefits/desempleo_registro.h"
+#include "benefits/desempleo/desempleo_registro.h"
 #include "cases/archivo_supuestos.h"
 #include "foundations/values/almacen.h"
 

@@ -3,8 +3,8 @@
 #include <string_view>
 
 #include "foundations/values/formatos.h"
-#include "pensions/jubilacion_carrera.h"
-#include "pensions/tablas_pensiones.h"
+#include "pensions/comun/tablas_pensiones.h"
+#include "pensions/jubilacion/jubilacion_carrera.h"
 
 namespace orvemo::pruebas {
 

@@ -1,4 +1,4 @@
-#include "pensions/jubilacion_base.h"
+#include "pensions/jubilacion/jubilacion_base.h"
 
 #include <gtest/gtest.h>
 

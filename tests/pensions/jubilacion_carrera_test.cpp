@@ -1,4 +1,4 @@
-#include "pensions/jubilacion_carrera.h"
+#include "pensions/jubilacion/jubilacion_carrera.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 
 #include "foundations/values/fallos.h"
 #include "pensions/casos_jubilacion.h"
-#include "pensions/jubilacion_cuantia.h"
+#include "pensions/jubilacion/jubilacion_cuantia.h"
 
 namespace orvemo::jubilacion {
 namespace {

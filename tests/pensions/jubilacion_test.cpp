@@ -1,4 +1,4 @@
-#include "pensions/jubilacion.h"
+#include "pensions/jubilacion/jubilacion.h"
 
 #include <gtest/gtest.h>
 

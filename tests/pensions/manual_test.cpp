@@ -6,7 +6,7 @@
 #include <iterator>
 
 #include "apoyo/entorno_falso.h"
-#include "pensions/pension_frm.h"
+#include "pensions/jubilacion/pension_frm.h"
 
 namespace orvemo::pruebas {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "apoyo/entorno_falso.h"
 #include "apoyo/vista_falsa.h"
-#include "pensions/pension_frm.h"
+#include "pensions/jubilacion/pension_frm.h"
 
 namespace orvemo::pruebas {
 

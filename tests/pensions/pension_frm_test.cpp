@@ -1,4 +1,4 @@
-#include "pensions/pension_frm.h"
+#include "pensions/jubilacion/pension_frm.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "pensions/pensiones.h"
+#include "pensions/comun/pensiones.h"
 
 #include <gtest/gtest.h>
 

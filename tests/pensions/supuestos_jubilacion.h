@@ -6,7 +6,7 @@
 
 #include "foundations/values/dictamen.h"
 #include "pensions/casos_jubilacion.h"
-#include "pensions/jubilacion.h"
+#include "pensions/jubilacion/jubilacion.h"
 
 namespace orvemo::pruebas {
 

@@ -1,4 +1,4 @@
-#include "pensions/tablas_pensiones.h"
+#include "pensions/comun/tablas_pensiones.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 // Leaving a field whose check fails, in every way in which a user can try.
 #include <gtest/gtest.h>
 
-#include "benefits/desemp_frm.h"
+#include "benefits/desempleo/desemp_frm.h"
 #include "formulario_de_prueba.h"
 #include "ventana.h"
 

@@ -5,7 +5,7 @@
 #include <QGroupBox>
 #include <QScrollArea>
 
-#include "benefits/desemp_frm.h"
+#include "benefits/desempleo/desemp_frm.h"
 #include "formulario_de_prueba.h"
 #include "foundations/values/fallos.h"
 #include "shell/config_frm.h"

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "foundations/frame/campo.h"
-#include "foundations/frame/informe.h"
+#include "printing/informe.h"
 
 namespace orvemo {
 

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "benefits/desempleo/desempleo_registro.h"
+#include "foundations/frame/calculadora.h"
+
+namespace orvemo {
+
+/// "PRESTACIONES DE DESEMPLEO": the applicant's data and the conclusions.
+class DesempFrm final : public CalculadoraDe<desempleo::RegistroDesempleo, desempleo::kDiseno> {
+  public:
+    explicit DesempFrm(Entorno& entorno);
+
+    void ImprimeInforme(RutinasImpresion& rutinas) override;
+
+  protected:
+    void tomaCampos() override;
+    void cargaCampos() override;
+    void calcula(Dictamen& dictamen) override;
+
+  public:
+    Campo& Nombre;
+    Campo& Edad;
+    Campo& Fecha;
+    Campo& fIni;
+    Campo& Suma;
+    Campo& Dias;
+    Campo& Hijos;
+    Campo& Parcial;
+    Campo& Horas;
+};
+
+}  // namespace orvemo

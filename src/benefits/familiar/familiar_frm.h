@@ -1,0 +1,45 @@
+#pragma once
+
+#include "benefits/familiar/familiar_registro.h"
+#include "foundations/frame/calculadora.h"
+
+namespace orvemo {
+
+/// "PRESTACIONES FAMILIARES NO CONTRIBUTIVAS": dependent children or a birth, as the list at the top tells.
+class FamiliarFrm final : public CalculadoraDe<familiar::RegistroFamiliar, familiar::kDiseno> {
+  public:
+    explicit FamiliarFrm(Entorno& entorno);
+
+    void LimpiaDatos() override;
+    void ImprimeInforme(RutinasImpresion& rutinas) override;
+
+  protected:
+    void tomaCampos() override;
+    void cargaCampos() override;
+    void calcula(Dictamen& dictamen) override;
+    [[nodiscard]] bool calculaDesdeCampos() const override { return true; }
+    [[nodiscard]] bool grabaDatosIncompletos() const override { return false; }
+    [[nodiscard]] std::string subtituloDe(int pantalla) const override;
+
+  private:
+    void ajustaSupuestos();
+    void compruebaHijosParto(Campo& campo);
+    void compruebaTotalHijos(Campo& campo);
+    [[nodiscard]] bool esNacimiento() const;
+
+  public:
+    Grupo& HijosACargo;  ///< `Supuestos` 0
+    Grupo& Nacimiento;   ///< `Supuestos` 1
+    Campo& Nombre;
+    Campo& Ayuda;
+    Campo& Hijos;
+    Campo& HMin1;
+    Campo& HMin2;
+    Campo& HMin3;
+    Campo& Ingresos;
+    Campo& HijosParto;
+    Campo& TotalHijos;
+    Campo& Ingresos2;
+};
+
+}  // namespace orvemo
