@@ -37,24 +37,37 @@ class Texto {
     }
 
     /// The text in UTF-8, up to its first NUL, without the blanks at both ends.
-    [[nodiscard]] std::string utf8() const {
-        const auto fin = std::find(bytes_.begin(), bytes_.end(), '\0');
-        return De1252(Recorta({bytes_.data(), static_cast<std::size_t>(fin - bytes_.begin())}));
-    }
+    [[nodiscard]] std::string utf8() const { return De1252(Recorta(escrito())); }
+
+    /// The same with its blanks: codes whose width tells ("087 ").
+    [[nodiscard]] std::string utf8SinRecortar() const { return De1252(escrito()); }
 
     [[nodiscard]] std::array<char, N>& bytes() { return bytes_; }
     [[nodiscard]] const std::array<char, N>& bytes() const { return bytes_; }
     friend bool operator==(const Texto&, const Texto&) = default;
 
   private:
+    [[nodiscard]] std::string_view escrito() const {
+        const auto fin = std::find(bytes_.begin(), bytes_.end(), '\0');
+        return {bytes_.data(), static_cast<std::size_t>(fin - bytes_.begin())};
+    }
+
     std::array<char, N> bytes_{};
+};
+
+/// A struct with a layout of its own: the function `DisenoDe(const T*)` beside it gives that layout, and the
+/// struct, or an array of it, may then be a member of a record.
+template <typename T>
+concept ConDiseno = requires(const T* ninguno) {
+    DisenoDe(ninguno).longitud();
 };
 
 /// How a field of type T lies in a record: its width and the two ways across.
 template <typename T>
 struct EnRegistro {
-    static_assert(std::is_arithmetic_v<T>,
-                  "a field of a record is a number, a date, a text or an array of them");
+    static_assert(
+        std::is_arithmetic_v<T>,
+        "a field of a record is a number, a date, a text, a struct with its layout or an array of them");
     static constexpr std::size_t kAncho = sizeof(T);
     static void lee(const char* origen, T& campo) { std::memcpy(&campo, origen, sizeof(T)); }
     static void escribe(char* destino, const T& campo) { std::memcpy(destino, &campo, sizeof(T)); }
@@ -81,6 +94,14 @@ struct EnRegistro<Fecha> {
         const double serie = SerieDeFecha(campo);
         std::memcpy(destino, &serie, sizeof serie);
     }
+};
+
+template <ConDiseno T>
+struct EnRegistro<T> {
+    static constexpr const auto& kDiseno = DisenoDe(static_cast<const T*>(nullptr));
+    static constexpr std::size_t kAncho = kDiseno.longitud();
+    static void lee(const char* origen, T& campo) { kDiseno.lee({origen, kAncho}, campo); }
+    static void escribe(char* destino, const T& campo) { kDiseno.escribe(destino, campo); }
 };
 
 template <typename T, std::size_t N>
@@ -137,10 +158,15 @@ class Diseno {
     /// The bytes of the record, `longitud()` of them.
     [[nodiscard]] std::string escribe(const Registro& registro) const {
         std::string bytes(longitud_, '\0');
-        cada([&]<typename C>(const Tramo<Registro, C>& tramo) {
-            EnRegistro<C>::escribe(bytes.data() + tramo.posicion, registro.*tramo.campo);
-        });
+        escribe(bytes.data(), registro);
         return bytes;
+    }
+
+    /// The same, into `longitud()` bytes from `destino` on.
+    void escribe(char* destino, const Registro& registro) const {
+        cada([&]<typename C>(const Tramo<Registro, C>& tramo) {
+            EnRegistro<C>::escribe(destino + tramo.posicion, registro.*tramo.campo);
+        });
     }
 
   private:

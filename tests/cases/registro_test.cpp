@@ -8,6 +8,19 @@
 namespace orvemo {
 namespace {
 
+/// An element of a record: someone who depends on its person.
+struct Familiar {
+    std::uint8_t Presente = 0;
+    std::int16_t Nacimiento = 0;
+
+    friend bool operator==(const Familiar&, const Familiar&) = default;
+};
+constexpr Diseno kFamiliar{3, Tramo{0, "Presente", &Familiar::Presente},
+                           Tramo{1, "Nacimiento", &Familiar::Nacimiento}};
+constexpr const auto& DisenoDe(const Familiar*) {
+    return kFamiliar;
+}
+
 struct Muestra {
     Texto<1> Estado;
     Texto<10> Nombre;
@@ -18,9 +31,12 @@ struct Muestra {
     Fecha Alta = kFechaCero;
     std::array<double, 2> Bases{};
     std::array<Texto<2>, 2> Claves;
+    std::array<Familiar, 2> Hijo{};
+    Familiar Padre;
+    Texto<4> Contrato;
     Texto<3> reservado;
 };
-constexpr Diseno kMuestra{60,
+constexpr Diseno kMuestra{73,
                           Tramo{0, "Estado", &Muestra::Estado},
                           Tramo{1, "Nombre", &Muestra::Nombre},
                           Tramo{11, "Edad", &Muestra::Edad},
@@ -30,7 +46,10 @@ constexpr Diseno kMuestra{60,
                           Tramo{29, "Alta", &Muestra::Alta},
                           Tramo{37, "Bases", &Muestra::Bases},
                           Tramo{53, "Claves", &Muestra::Claves},
-                          Tramo{57, "reservado", &Muestra::reservado}};
+                          Tramo{57, "Hijo", &Muestra::Hijo},
+                          Tramo{63, "Padre", &Muestra::Padre},
+                          Tramo{66, "Contrato", &Muestra::Contrato},
+                          Tramo{70, "reservado", &Muestra::reservado}};
 
 std::string imagen(std::initializer_list<int> bytes) {
     std::string texto;
@@ -50,6 +69,10 @@ const std::string kImagen = imagen({
     0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x40,              // 2
     0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xC0,              // -2
     0x41, 0x20, 0x42, 0x43,                                      // "A", "BC"
+    0x01, 0xD1, 0x07,                                            // a child of 2001
+    0x00, 0x00, 0x00,                                            // no second child
+    0x01, 0x9E, 0x07,                                            // a father of 1950
+    0x30, 0x38, 0x37, 0x20,                                      // "087 "
     0x00, 0x00, 0x00,                                            // never written
 });
 
@@ -64,6 +87,9 @@ TEST(Registro, LiesByteByByteAsTheLayoutTells) {
     muestra.Alta = FechaDMA(6, 6, 2005);
     muestra.Bases = {2, -2};
     muestra.Claves = {Texto<2>{"A"}, Texto<2>{"BC"}};
+    muestra.Hijo[0] = {1, 2001};
+    muestra.Padre = {1, 1950};
+    muestra.Contrato.asigna("087");
     EXPECT_EQ(kMuestra.escribe(muestra), kImagen);
 }
 
@@ -78,7 +104,11 @@ TEST(Registro, IsReadBackFieldByField) {
     EXPECT_EQ(muestra.Alta, FechaDMA(6, 6, 2005));
     EXPECT_EQ(muestra.Bases, (std::array<double, 2>{2, -2}));
     EXPECT_EQ(muestra.Claves[1].utf8(), "BC");
-    EXPECT_EQ(muestra.reservado.utf8(), "");
+    EXPECT_EQ(muestra.Hijo, (std::array{Familiar{1, 2001}, Familiar{}}));
+    EXPECT_EQ(muestra.Padre, (Familiar{1, 1950}));
+    EXPECT_EQ(muestra.Contrato.utf8(), "087");
+    EXPECT_EQ(muestra.Contrato.utf8SinRecortar(), "087 ");
+    EXPECT_EQ(muestra.reservado.utf8SinRecortar(), "");
     EXPECT_EQ(kMuestra.escribe(muestra), kImagen) << "reserved bytes go back as they came";
 }
 

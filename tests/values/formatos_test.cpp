@@ -96,6 +96,14 @@ TEST(TextoPlano, HasFifteenDigitsAndNoExponent) {
     for (const auto& caso : casos) EXPECT_EQ(caso.esperado, TextoPlano(caso.valor));
 }
 
+TEST(TextoPlano, HasSevenDigitsOfASinglePrecisionNumber) {
+    EXPECT_EQ("12,35", TextoPlano(12.35F));
+    EXPECT_EQ("0,3333333", TextoPlano(1.0F / 3));
+    EXPECT_EQ("1234568", TextoPlano(1234567.875F));
+    EXPECT_EQ("-2", TextoPlano(-2.0F));
+    EXPECT_EQ("", TextoPlano(std::numeric_limits<float>::infinity()));
+}
+
 TEST(Valor, GivesItsText) {
     EXPECT_EQ("", Valor{}.texto());
     EXPECT_EQ("", Valor{Nulo{}}.texto());

@@ -5,6 +5,7 @@
 
 #include "foundations/values/fallos.h"
 #include "foundations/values/numeros.h"
+#include "foundations/values/octeto.h"
 
 namespace orvemo {
 namespace {
@@ -32,6 +33,26 @@ TEST(RedondeaPar, RaisesWhatItsIntegerCannotHold) {
     EXPECT_EQ(-32768, RedondeaPar16(-32768.5));
     EXPECT_THROW((void)RedondeaPar16(32767.5), DesbordeNumerico);
     EXPECT_THROW((void)RedondeaPar16(-32769), DesbordeNumerico);
+    EXPECT_EQ(255, RedondeaPar8(255.4));
+    EXPECT_EQ(0, RedondeaPar8(-0.5));
+    EXPECT_THROW((void)RedondeaPar8(255.5), DesbordeNumerico);
+    EXPECT_THROW((void)RedondeaPar8(-0.6), DesbordeNumerico);
+}
+
+// A leave of 31 days in a month of 30 left 255 days worked.
+TEST(Octeto, CountsDaysAndRaisesWhereTheyRunOut) {
+    Octeto trabajados{30};
+    const Octeto baja{31};
+    EXPECT_THROW((void)(trabajados - baja), DesbordeNumerico);
+    EXPECT_THROW(trabajados -= baja, DesbordeNumerico);
+    EXPECT_EQ(trabajados, 30) << "a failed sum leaves the counter as it was";
+    EXPECT_EQ(trabajados - 31, -1) << "with a plain number it is a plain number";
+    trabajados += 225;
+    EXPECT_EQ(trabajados, 255);
+    EXPECT_THROW(++trabajados, DesbordeNumerico);
+    EXPECT_THROW((void)(trabajados + Octeto{1}), DesbordeNumerico);
+    EXPECT_THROW(trabajados = 256, DesbordeNumerico);
+    EXPECT_EQ(baja + Octeto{1}, 32);
 }
 
 TEST(Redondea, NudgesFirstAndThenRoundsToEven) {

@@ -6,13 +6,13 @@
 
 namespace orvemo {
 
-Decimal::Decimal(double valor) : negativo_{valor < 0} {
+Decimal::Decimal(double valor, int cifras) : cuantas_{cifras}, negativo_{valor < 0} {
     char texto[kCifrasSignificativas + 8];  // d.dddddddddddddde-308
     const auto fin = std::to_chars(texto, texto + sizeof texto, std::abs(valor),
-                                   std::chars_format::scientific, kCifrasSignificativas - 1);
+                                   std::chars_format::scientific, cifras - 1);
     cifras_[0] = texto[0];
-    std::copy_n(texto + 2, kCifrasSignificativas - 1, cifras_.begin() + 1);
-    const char* exponente = texto + kCifrasSignificativas + 2;  // behind the "e"
+    std::copy_n(texto + 2, cifras - 1, cifras_.begin() + 1);
+    const char* exponente = texto + cifras + 2;  // behind the "e"
     std::from_chars(exponente + (*exponente == '+' ? 1 : 0), fin.ptr, exponente_);
     quitaCerosFinales();
 }

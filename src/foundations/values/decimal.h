@@ -7,13 +7,15 @@ namespace orvemo {
 
 /// Decimal digits of a double that mean something.
 inline constexpr int kCifrasSignificativas = 15;
+/// The same of a number of single precision.
+inline constexpr int kCifrasDeUnSimple = 7;
 
 /// A number as its decimal text has it: d0 . d1 d2 … × 10^exponente. Texts of numbers are rounded on these
 /// digits and not on the binary value, so that 1010.765 shows as 1010,77.
 class Decimal {
   public:
-    /// The 15 significant digits of a finite number.
-    explicit Decimal(double valor);
+    /// The first significant digits of a finite number, 15 at most.
+    explicit Decimal(double valor, int cifras = kCifrasSignificativas);
 
     /// Leaves so many decimals, a half going away from zero.
     void redondea(int decimales);
@@ -35,7 +37,7 @@ class Decimal {
     void sumaUno();
 
     std::array<char, kCifrasSignificativas> cifras_{};
-    int cuantas_ = kCifrasSignificativas;  ///< digits that count; those behind them are 0
+    int cuantas_;  ///< digits that count; those behind them are 0
     int exponente_ = 0;
     bool negativo_ = false;
 };

@@ -85,6 +85,14 @@ std::string escribe(const Decimal& decimal, const Patron& patron, const AjustesR
     return salida;
 }
 
+/// All the digits of a number and no others.
+std::string textoPlano(const Decimal& decimal, const AjustesRegionales& ajustes) {
+    Patron patron;
+    patron.enterasMinimas = 1;
+    patron.marcaDecimal = decimal.decimales() > 0;
+    return escribe(decimal, patron, ajustes);
+}
+
 /// The number with as many digits as stand for `cuantos` places, zeros before it.
 std::string conCeros(int numero, int cuantos) {
     Patron patron;
@@ -178,12 +186,11 @@ std::string FormatoNumero(double valor, std::string_view patron, const AjustesRe
 }
 
 std::string TextoPlano(double valor, const AjustesRegionales& ajustes) {
-    if (!std::isfinite(valor)) return {};
-    const Decimal decimal{valor};
-    Patron patron;
-    patron.enterasMinimas = 1;
-    patron.marcaDecimal = decimal.decimales() > 0;
-    return escribe(decimal, patron, ajustes);
+    return std::isfinite(valor) ? textoPlano(Decimal{valor}, ajustes) : std::string{};
+}
+
+std::string TextoPlanoSimple(float valor, const AjustesRegionales& ajustes) {
+    return std::isfinite(valor) ? textoPlano(Decimal{valor, kCifrasDeUnSimple}, ajustes) : std::string{};
 }
 
 std::string FormatoFecha(Fecha fecha, std::string_view patron, const AjustesRegionales& ajustes) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,14 @@ namespace orvemo {
 /// The plain text of a number: at most 15 significant digits, the regional decimal mark, no exponent, no
 /// trailing zeros ("1010,765", "38"). NaN or infinity gives "".
 [[nodiscard]] std::string TextoPlano(double valor, const AjustesRegionales& ajustes = kEspana);
+
+/// The same for a number of single precision, which has 7 significant digits: 12.35 stays "12,35" and isn't
+/// the "12,3500003814697" of its double.
+[[nodiscard]] std::string TextoPlanoSimple(float valor, const AjustesRegionales& ajustes = kEspana);
+template <std::same_as<float> Simple>
+[[nodiscard]] std::string TextoPlano(Simple valor, const AjustesRegionales& ajustes = kEspana) {
+    return TextoPlanoSimple(valor, ajustes);
+}
 
 /// The date by a pattern of d, dd, dddd (the weekday), m, mm, mmm, mmmm, yy, yyyy (m or M alike) with
 /// anything else as it stands.

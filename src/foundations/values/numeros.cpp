@@ -153,6 +153,11 @@ std::int16_t RedondeaPar16(double valor) {
     throw DesbordeNumerico{valor};
 }
 
+std::uint8_t RedondeaPar8(double valor) {
+    if (const auto entero = alPar<std::uint8_t>(valor)) return *entero;
+    throw DesbordeNumerico{valor};
+}
+
 double LeeNumero(std::string_view texto) {
     const std::string limpio = sinBlancos(texto);
     std::string_view numero = std::string_view{limpio}.substr(0, finDeNumero(limpio));

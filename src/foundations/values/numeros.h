@@ -15,6 +15,9 @@ namespace orvemo {
 /// The same for a 16-bit integer.
 [[nodiscard]] std::int16_t RedondeaPar16(double valor);
 
+/// The same for a byte, 0 to 255.
+[[nodiscard]] std::uint8_t RedondeaPar8(double valor);
+
 /// The longest prefix that reads as a number with a point as decimal mark, blanks skipped anywhere, an
 /// exponent (E or D) allowed. Stops at the first other character, a comma included; nothing readable gives 0.
 /// Throws DesbordeNumerico when the number is too large for a double.
