@@ -16,10 +16,11 @@
 #include "shell/calculadoras.h"
 #include "shell/programa.h"
 #include "toolkit/aplicacion.h"
-#include "toolkit/estilo.h"
 #include "toolkit/impresora_pdf.h"
+#include "toolkit/instalacion.h"
 #include "toolkit/medidas.h"
 #include "toolkit/mensajes_qt.h"
+#include "toolkit/paleta.h"
 #include "toolkit/textos_qt.h"
 #include "toolkit/vista_menu.h"
 

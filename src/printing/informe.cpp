@@ -6,6 +6,7 @@ namespace {
 
 // Centimetres.
 constexpr float kMargen = 1.0F;
+constexpr float kAlturaFuente = 2.0F;  // where the letters of the body are set
 constexpr float kPasoDatos = 0.5F;
 constexpr float kPasoConclusiones = 0.6F;
 constexpr float kSeparacion = 1.0F;
@@ -14,11 +15,16 @@ constexpr float kFinImporte = 5.0F;  // from the start of its column
 
 }  // namespace
 
-Informe::Informe(RutinasImpresion& rutinas, std::string_view titulo) : rutinas_{rutinas} {
+Informe::Informe(RutinasImpresion& rutinas, std::string_view titulo, const CuerpoInforme& cuerpo)
+    : rutinas_{rutinas} {
     rutinas_.ImprimeCabecera(1, titulo);
-    rutinas_.PonPosicion(1.0F, 2.0F);
-    rutinas_.PonFuente("Arial", 12, "");
-    rutinas_.PonPosicion(1.0F, 6.0F);
+    salta(kAlturaFuente);
+    rutinas_.PonFuente(cuerpo.fuente, cuerpo.tamano, "");
+    salta(cuerpo.comienzo);
+}
+
+void Informe::salta(float y) {
+    rutinas_.PonPosicion(kMargen, y);
 }
 
 void Informe::linea(std::string_view texto) {

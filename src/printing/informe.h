@@ -14,11 +14,21 @@ struct CeldaInforme {
     std::string importe;
 };
 
+/// The letters of a report's body, and how far down the page it begins.
+struct CuerpoInforme {
+    std::string_view fuente = "Arial";
+    int tamano = 12;        ///< points
+    float comienzo = 6.0F;  ///< centimetres
+};
+
 /// The shape that the reports of the calculators share: title, data lines, a step, the conclusions.
 class Informe {
   public:
-    /// Starts the document: header with the title, "Arial" 12, body from X 1, Y 6.
-    Informe(RutinasImpresion& rutinas, std::string_view titulo);
+    /// Starts the document: header with the title, then the body from X 1.
+    Informe(RutinasImpresion& rutinas, std::string_view titulo, const CuerpoInforme& cuerpo = {});
+
+    /// Goes on at this height of the page, in centimetres.
+    void salta(float y);
 
     /// One line of data.
     void linea(std::string_view texto);

@@ -5,7 +5,7 @@
 #include <exception>
 #include <string>
 
-#include "toolkit/estilo.h"
+#include "toolkit/instalacion.h"
 
 namespace orvemo {
 

@@ -7,9 +7,9 @@
 #include <array>
 #include <string_view>
 
-#include "toolkit/estilo.h"
 #include "toolkit/iconos.h"
 #include "toolkit/medidas.h"
+#include "toolkit/pinceladas.h"
 #include "toolkit/textos_qt.h"
 
 namespace orvemo {

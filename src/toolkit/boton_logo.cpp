@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "toolkit/medidas.h"
+#include "toolkit/paleta.h"
 
 namespace orvemo {
 

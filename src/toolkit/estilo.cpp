@@ -1,24 +1,20 @@
 #include "toolkit/estilo.h"
 
-#include <QApplication>
 #include <QPainter>
-#include <QScreen>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QStyleOptionComplex>
-#include <QToolTip>
-#include <algorithm>
 
 #include "toolkit/iconos.h"
 #include "toolkit/medidas.h"
+#include "toolkit/paleta.h"
+#include "toolkit/pinceladas.h"
 
 namespace orvemo {
 
 namespace {
 
-constexpr double kPuntosLetra = 7.5;  // at factor 1
 // Twips.
-constexpr int kRadio = 60;
 constexpr int kLadoCasilla = 210;
 constexpr int kLadoIcono = 210;
 constexpr int kLadoIconoMensaje = 540;
@@ -26,130 +22,11 @@ constexpr int kSeparacionHorizontal = 120;
 constexpr int kSeparacionVertical = 90;
 constexpr int kMargen = 150;
 constexpr int kRellenoBoton = 180;
-constexpr int kHuecoIcono = 75;
 constexpr int kBajoTitulo = 45;
 
-struct Caja {
-    QColor fondo;
-    QColor borde;
-    double grosor = 1;
-};
-
-void pintaCaja(QPainter& pincel, const QRect& sitio, const Caja& caja) {
-    pincel.save();
-    pincel.setRenderHint(QPainter::Antialiasing);
-    pincel.setBrush(caja.fondo);
-    pincel.setPen(caja.borde.alpha() == 0 ? QPen{Qt::NoPen} : QPen{caja.borde, caja.grosor});
-    const double m = caja.grosor / 2;
-    pincel.drawRoundedRect(QRectF{sitio}.adjusted(m, m, -m, -m), px(kRadio), px(kRadio));
-    pincel.restore();
-}
-
-double grosorFoco() {
-    return 1.4 * escala();
-}
-
-bool tiene(const QStyleOption& opcion, QStyle::StateFlag estado) {
-    return opcion.state.testFlag(estado);
-}
-
-bool conFoco(const QStyleOption& opcion) {
-    return tiene(opcion, QStyle::State_HasFocus) && tiene(opcion, QStyle::State_Enabled);
-}
-
-Caja cajaDeCampo(const QStyleOption& opcion) {
-    if (!tiene(opcion, QStyle::State_Enabled)) return {kColorVentana, kColorBorde};
-    const QColor fondo = tiene(opcion, QStyle::State_ReadOnly) ? kColorPanel : kColorBase;
-    if (conFoco(opcion)) return {fondo, kColorAcento, grosorFoco()};
-    return {fondo, tiene(opcion, QStyle::State_MouseOver) ? kColorTextoSecundario : kColorBordeControl};
-}
-
-/// One that can't be pressed looks like any other.
-bool esPrincipal(const QStyleOption& opcion, const QWidget* widget) {
-    if (!tiene(opcion, QStyle::State_Enabled)) return false;
-    if (widget != nullptr && widget->property(kPropiedadPrincipal).toBool()) return true;
-    const auto* boton = qstyleoption_cast<const QStyleOptionButton*>(&opcion);
-    return boton != nullptr && boton->features.testFlag(QStyleOptionButton::DefaultButton);
-}
-
-Caja cajaDeBotonPrincipal(const QStyleOption& opcion) {
-    const bool hundido = tiene(opcion, QStyle::State_Sunken);
-    const bool encima = tiene(opcion, QStyle::State_MouseOver);
-    const QColor fondo = hundido ? kColorAcentoOscuro : encima ? kColorAcentoClaro : kColorAcento;
-    return {fondo, conFoco(opcion) ? kColorTexto : fondo, conFoco(opcion) ? grosorFoco() : 1};
-}
-
-Caja cajaDeBoton(const QStyleOption& opcion) {
-    if (!tiene(opcion, QStyle::State_Enabled)) return {kColorVentana, kColorBorde};
-    const bool hundido = opcion.state & (QStyle::State_Sunken | QStyle::State_On);
-    const bool encima = tiene(opcion, QStyle::State_MouseOver);
-    const QColor fondo = hundido ? kColorAcentoPalido : encima ? kColorVentana : kColorBase;
-    if (conFoco(opcion)) return {fondo, kColorAcento, grosorFoco()};
-    return {fondo, encima ? kColorAcento : kColorBordeControl};
-}
-
-/// A button of the bar shows its shape only under the mouse, pressed or with the focus.
-Caja cajaDeBotonPlano(const QStyleOption& opcion) {
-    Caja caja{Qt::transparent, Qt::transparent};
-    if (!tiene(opcion, QStyle::State_Enabled)) return caja;
-    if (tiene(opcion, QStyle::State_MouseOver)) caja.fondo = kColorVentana;
-    if (opcion.state & (QStyle::State_Sunken | QStyle::State_On)) caja.fondo = kColorAcentoPalido;
-    if (conFoco(opcion)) caja = {caja.fondo, kColorAcento, grosorFoco()};
-    return caja;
-}
-
-/// Icon and caption, in the middle together.
-void pintaRotulo(QPainter& pincel, const QStyleOptionButton& boton, bool principal) {
-    const bool activo = tiene(boton, QStyle::State_Enabled);
-    const QSize icono = boton.icon.isNull() ? QSize{} : boton.iconSize;
-    const QSize texto = boton.fontMetrics.size(Qt::TextShowMnemonic, boton.text);
-    const int ancho = texto.width() + (boton.icon.isNull() ? 0 : icono.width() + px(kHuecoIcono));
-    const QRect todo =
-        QStyle::alignedRect(boton.direction, Qt::AlignCenter, {ancho, boton.rect.height()}, boton.rect);
-    const auto parte = [&](Qt::Alignment lado, const QSize& talla) {
-        return QStyle::alignedRect(boton.direction, lado | Qt::AlignVCenter, talla, todo);
-    };
-    if (!boton.icon.isNull()) {
-        boton.icon.paint(&pincel, parte(Qt::AlignLeft, icono), Qt::AlignCenter,
-                         activo ? QIcon::Normal : QIcon::Disabled);
-    }
-    pincel.setPen(principal ? kColorBase : boton.palette.color(QPalette::ButtonText));
-    pincel.drawText(parte(Qt::AlignRight, texto), Qt::AlignCenter | Qt::TextShowMnemonic, boton.text);
-}
-
-void pintaFoco(QPainter& pincel, const QRect& sitio) {
-    pintaCaja(pincel, sitio, {Qt::transparent, kColorAcento, grosorFoco()});
-}
-
-QPen plumaDeTrazo(const QColor& color) {
-    return {color, 1.3 * escala(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
-}
-
-void pintaCasilla(QPainter& pincel, const QStyleOption& opcion) {
-    Caja caja = cajaDeCampo(opcion);
-    const bool marcada = tiene(opcion, QStyle::State_On);
-    if (marcada && tiene(opcion, QStyle::State_Enabled)) caja = {kColorAcento, kColorAcento};
-    pintaCaja(pincel, opcion.rect, caja);
-    if (!marcada) return;
-    const QRectF r{opcion.rect};
-    pincel.save();
-    pincel.setRenderHint(QPainter::Antialiasing);
-    pincel.setPen(plumaDeTrazo(kColorBase));
-    pincel.drawPolyline(QPolygonF{{r.x() + r.width() * 0.24, r.y() + r.height() * 0.53},
-                                  {r.x() + r.width() * 0.43, r.y() + r.height() * 0.72},
-                                  {r.x() + r.width() * 0.77, r.y() + r.height() * 0.30}});
-    pincel.restore();
-}
-
-void pintaPuntaAbajo(QPainter& pincel, const QRect& sitio, bool activa) {
-    const QPointF c = QRectF{sitio}.center();
-    const double m = px(54);
-    pincel.save();
-    pincel.setRenderHint(QPainter::Antialiasing);
-    pincel.setPen(plumaDeTrazo(activa ? kColorTextoSecundario : kColorTextoInactivo));
-    pincel.drawPolyline(
-        QPolygonF{{c.x() - m, c.y() - m / 2}, {c.x(), c.y() + m / 2}, {c.x() + m, c.y() - m / 2}});
-    pincel.restore();
+/// A check box or a radio button: one ring around mark and caption.
+bool esDeMarca(const QObject* objeto) {
+    return objeto != nullptr && (objeto->inherits("QCheckBox") || objeto->inherits("QRadioButton"));
 }
 
 /// The title of a group stands above its frame.
@@ -165,34 +42,6 @@ void pintaGrupo(QPainter& pincel, const QStyleOptionGroupBox& grupo) {
     pincel.setPen(kColorAcento);
     pincel.drawText(parteDeGrupo(grupo, QStyle::SC_GroupBoxLabel), Qt::AlignLeft | Qt::TextShowMnemonic,
                     grupo.text);
-}
-
-/// How much larger than the ordinary the user's desktop wants letters.
-double ampliacionDeLetras() {
-    constexpr double kPuntosDelEscritorio = 11;
-    constexpr double kMaxima = 2;
-    // The style's own letters, once installed, say nothing about the desktop.
-    static const double ampliacion =
-        std::clamp(QApplication::font().pointSizeF() / kPuntosDelEscritorio, 1.0, kMaxima);
-    return ampliacion;
-}
-
-QPalette paletaClara() {
-    QPalette paleta{kColorTexto, kColorBase, kColorBase, kColorBorde,  kColorBordeControl,
-                    kColorTexto, kColorBase, kColorBase, kColorVentana};
-    paleta.setColor(QPalette::AlternateBase, kColorPanel);
-    paleta.setColor(QPalette::Highlight, kColorAcento);
-    paleta.setColor(QPalette::HighlightedText, kColorBase);
-    paleta.setColor(QPalette::Inactive, QPalette::Highlight, kColorBordeControl);
-    paleta.setColor(QPalette::ToolTipBase, kColorBase);
-    paleta.setColor(QPalette::ToolTipText, kColorTexto);
-    paleta.setColor(QPalette::Link, kColorAcento);
-    paleta.setColor(QPalette::LinkVisited, kColorAcento);
-    paleta.setColor(QPalette::PlaceholderText, kColorTextoInactivo);
-    for (const auto papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        paleta.setColor(QPalette::Disabled, papel, kColorTextoInactivo);
-    }
-    return paleta;
 }
 
 }  // namespace
@@ -220,11 +69,12 @@ void Estilo::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opcion
         case PE_IndicatorCheckBox:
             pintaCasilla(*pincel, *opcion);
             return;
+        case PE_IndicatorRadioButton:
+            pintaRedonda(*pincel, *opcion);
+            return;
         case PE_FrameFocusRect:
-            if (qobject_cast<const QWidget*>(opcion->styleObject) != nullptr &&
-                opcion->styleObject->inherits("QCheckBox")) {
-                pintaFoco(*pincel, opcion->rect);
-            }
+            // The other controls draw the ring on their own edge.
+            if (esDeMarca(opcion->styleObject)) pintaFoco(*pincel, opcion->rect);
             return;
         default:
             QProxyStyle::drawPrimitive(elemento, opcion, pincel, widget);
@@ -245,12 +95,16 @@ void Estilo::drawComplexControl(ComplexControl control, const QStyleOptionComple
                                 const QWidget* widget) const {
     const auto* lista = qstyleoption_cast<const QStyleOptionComboBox*>(opcion);
     const auto* grupo = qstyleoption_cast<const QStyleOptionGroupBox*>(opcion);
+    const auto* boton = qstyleoption_cast<const QStyleOptionToolButton*>(opcion);
     if (control == CC_ComboBox && lista != nullptr && !lista->editable) {
         pintaCaja(*pincel, opcion->rect, cajaDeCampo(*opcion));
         pintaPuntaAbajo(*pincel, subControlRect(CC_ComboBox, opcion, SC_ComboBoxArrow, widget),
-                        tiene(*opcion, State_Enabled));
+                        opcion->state.testFlag(State_Enabled));
     } else if (control == CC_GroupBox && grupo != nullptr) {
         pintaGrupo(*pincel, *grupo);
+    } else if (control == CC_ToolButton && boton != nullptr) {
+        pintaCaja(*pincel, opcion->rect, cajaDeBotonPlano(*opcion));
+        proxy()->drawControl(CE_ToolButtonLabel, boton, pincel, widget);
     } else {
         QProxyStyle::drawComplexControl(control, opcion, pincel, widget);
     }
@@ -263,6 +117,23 @@ QRect Estilo::subControlRect(ComplexControl control, const QStyleOptionComplex* 
     const QRect sitio = QProxyStyle::subControlRect(control, opcion, parte, widget);
     const bool textoDeLista = control == CC_ComboBox && parte == SC_ComboBoxEditField;
     return textoDeLista ? sitio.adjusted(px(kRellenoCampo), 0, 0, 0) : sitio;
+}
+
+/// The ring stands off the mark and its caption.
+QRect Estilo::subElementRect(SubElement parte, const QStyleOption* opcion, const QWidget* widget) const {
+    const int aire = px(kAireFoco);
+    switch (parte) {
+        case SE_CheckBoxFocusRect:
+        case SE_RadioButtonFocusRect:
+            return opcion->rect;
+        case SE_CheckBoxIndicator:
+        case SE_CheckBoxContents:
+        case SE_RadioButtonIndicator:
+        case SE_RadioButtonContents:
+            return QProxyStyle::subElementRect(parte, opcion, widget).translated(aire, 0);
+        default:
+            return QProxyStyle::subElementRect(parte, opcion, widget);
+    }
 }
 
 int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QWidget* widget) const {
@@ -302,6 +173,7 @@ QSize Estilo::sizeFromContents(ContentsType clase, const QStyleOption* opcion, c
     if (clase == CT_LineEdit || clase == CT_ComboBox) talla.setHeight(alto);
     if (clase == CT_ItemViewItem)
         talla.setHeight(qMax(talla.height(), qRound(opcion->fontMetrics.height() * 1.35)));
+    if (clase == CT_CheckBox || clase == CT_RadioButton) talla += {2 * px(kAireFoco), 2 * px(kAireFoco)};
     if (clase == CT_PushButton) {
         talla = {qMax(talla.width(), contenido.width() + 2 * px(kRellenoBoton)),
                  qMax(contenido.height(), alto)};
@@ -341,22 +213,6 @@ QIcon Estilo::standardIcon(StandardPixmap dibujo, const QStyleOption* opcion, co
 
 QPalette Estilo::standardPalette() const {
     return paletaClara();
-}
-
-void instalaEstilo(QApplication& aplicacion) {
-    instalaEstilo(aplicacion, QGuiApplication::primaryScreen()->availableSize());
-}
-
-void instalaEstilo(QApplication& aplicacion, QSize pantalla) {
-    const double ampliacion = ampliacionDeLetras();
-    ponEscala(escalaPara(pantalla, ampliacion));
-    aplicacion.setStyle(new Estilo);
-    aplicacion.setPalette(paletaClara());
-    QFont letra{QStringLiteral("Liberation Sans")};
-    letra.setPointSizeF(kPuntosLetra * escalaPara(pantalla, 1) * ampliacion);
-    QApplication::setFont(letra);
-    QToolTip::setPalette(paletaClara());
-    QToolTip::setFont(letra);
 }
 
 }  // namespace orvemo

@@ -2,12 +2,7 @@
 
 #include <QProxyStyle>
 
-class QApplication;
-
 namespace orvemo {
-
-/// Name of the property that marks the one primary button of a screen.
-inline constexpr const char* kPropiedadPrincipal = "principal";
 
 /// The look of the whole program: Fusion's behaviour with flat, quiet controls in the program's own colours.
 class Estilo final : public QProxyStyle {
@@ -22,6 +17,8 @@ class Estilo final : public QProxyStyle {
                             const QWidget* widget) const override;
     [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* opcion,
                                        SubControl parte, const QWidget* widget) const override;
+    [[nodiscard]] QRect subElementRect(SubElement parte, const QStyleOption* opcion,
+                                       const QWidget* widget) const override;
     [[nodiscard]] int pixelMetric(PixelMetric medida, const QStyleOption* opcion,
                                   const QWidget* widget) const override;
     [[nodiscard]] QSize sizeFromContents(ContentsType clase, const QStyleOption* opcion,
@@ -32,10 +29,5 @@ class Estilo final : public QProxyStyle {
                                      const QWidget* widget) const override;
     [[nodiscard]] QPalette standardPalette() const override;
 };
-
-/// Gives the application its style, palette, letters and scale, all by the screen at hand.
-void instalaEstilo(QApplication& aplicacion);
-/// The same for a screen of this size, in logical pixels.
-void instalaEstilo(QApplication& aplicacion, QSize pantalla);
 
 }  // namespace orvemo

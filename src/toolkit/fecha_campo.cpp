@@ -11,6 +11,7 @@
 #include "foundations/values/formatos.h"
 #include "toolkit/iconos.h"
 #include "toolkit/medidas.h"
+#include "toolkit/paleta.h"
 
 namespace orvemo {
 

@@ -4,7 +4,8 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <algorithm>
-#include <map>
+#include <cmath>
+#include <iterator>
 
 #include "foundations/values/fallos.h"
 #include "toolkit/tipos_letra.h"
@@ -16,26 +17,34 @@ namespace {
 constexpr double kCentimetrosPorPulgada = 2.54;
 constexpr double kGrosorRegla = 0.02;  // cm
 
-struct Extremos {
-    double desde, hasta;
-};
+using Textos = std::vector<Hoja::Texto>;
 
-/// Where each line of text begins and ends, by its height.
-[[nodiscard]] std::map<double, Extremos> renglones(const Hoja& hoja) {
-    std::map<double, Extremos> extremos;
-    for (const Hoja::Texto& texto : hoja.textos) {
-        const Extremos propios{texto.x, texto.x + texto.ancho};
-        Extremos& renglon = extremos.try_emplace(texto.y, propios).first->second;
-        renglon.desde = std::min(renglon.desde, propios.desde);
-        renglon.hasta = std::max(renglon.hasta, propios.hasta);
-    }
-    return extremos;
+/// Whether a piece goes on where the one before it ends: a line of text is put down piece by piece.
+bool sigue(const Hoja::Texto& antes, const Hoja::Texto& pieza) {
+    constexpr double kRoce = 0.001;  // cm, for places are of single precision
+    return pieza.y == antes.y && std::abs(pieza.x - (antes.x + antes.ancho)) <= kRoce;
 }
 
-void condensa(Hoja::Texto& texto, const Extremos& renglon, double limite) {
-    if (renglon.hasta <= limite || renglon.desde >= limite) return;
-    texto.estrechez = (limite - renglon.desde) / (renglon.hasta - renglon.desde);
-    texto.x = renglon.desde + (texto.x - renglon.desde) * texto.estrechez;
+/// Squeezes the pieces of one line towards its left edge. A line wholly outside stays there.
+void condensa(Textos::iterator primera, Textos::iterator fin, double limite) {
+    const double desde = primera->x;
+    const double hasta = std::prev(fin)->x + std::prev(fin)->ancho;
+    if (hasta <= limite || desde >= limite) return;
+    const double estrechez = (limite - desde) / (hasta - desde);
+    for (; primera != fin; ++primera) {
+        primera->estrechez = estrechez;
+        primera->x = desde + (primera->x - desde) * estrechez;
+    }
+}
+
+void condensaLineas(Textos& textos, double limite) {
+    for (auto primera = textos.begin(); primera != textos.end();) {
+        const auto ultima = std::adjacent_find(
+            primera, textos.end(), [](const auto& antes, const auto& pieza) { return !sigue(antes, pieza); });
+        const auto fin = ultima == textos.end() ? ultima : std::next(ultima);
+        condensa(primera, fin, limite);
+        primera = fin;
+    }
 }
 
 void recorta(Hoja::Rectangulo& trazo, double limite) {
@@ -106,8 +115,7 @@ class Pintor {
 }  // namespace
 
 void encaja(Hoja& hoja, double limite) {
-    const std::map<double, Extremos> extremos = renglones(hoja);
-    for (Hoja::Texto& texto : hoja.textos) condensa(texto, extremos.at(texto.y), limite);
+    condensaLineas(hoja.textos, limite);
     for (Hoja::Rectangulo& linea : hoja.lineas) recorta(linea, limite);
     for (Hoja::Rectangulo& caja : hoja.cajas) recorta(caja, limite);
 }

@@ -33,7 +33,8 @@ struct Hoja {
 };
 
 /// Brings the page within `limite` centimetres: rules and boxes end there, and a line of text that passes it
-/// is condensed as a whole, so that no letter falls off the paper.
+/// is condensed from its left edge on, all the pieces that abut in it alike, so that no letter falls off the
+/// paper. What else stands at its height stays as it is.
 void encaja(Hoja& hoja, double limite);
 
 /// The margin that a page keeps on the paper, in centimetres.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "toolkit/medidas.h"
+#include "toolkit/paleta.h"
 
 namespace orvemo {
 

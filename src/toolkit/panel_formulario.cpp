@@ -6,6 +6,7 @@
 
 #include "toolkit/controles.h"
 #include "toolkit/medidas.h"
+#include "toolkit/paleta.h"
 #include "toolkit/rotulo_campo.h"
 #include "toolkit/textos_qt.h"
 

@@ -6,10 +6,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "toolkit/estilo.h"
 #include "toolkit/iconos.h"
 #include "toolkit/lista_textos.h"
 #include "toolkit/medidas.h"
+#include "toolkit/pinceladas.h"
 #include "toolkit/textos_qt.h"
 
 namespace orvemo {

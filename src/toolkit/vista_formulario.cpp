@@ -9,6 +9,7 @@
 #include "toolkit/controles.h"
 #include "toolkit/imagenes_qt.h"
 #include "toolkit/medidas.h"
+#include "toolkit/paleta.h"
 #include "toolkit/supuesto.h"
 #include "toolkit/textos_qt.h"
 #include "toolkit/vista_dialogos.h"

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <tuple>
+#include <utility>
 
 #include "toolkit/boton_logo.h"
 #include "toolkit/boton_opcion.h"
@@ -105,11 +106,13 @@ void VistaMenu::ponOpciones() {
 // --- What the program asks
 
 void VistaMenu::muestraPortada(const std::string& foto, std::chrono::milliseconds duracion) {
-    Portada{cargaImagen(almacen_, foto)}.muestra(duracion);
+    portada_ = cargaImagen(almacen_, foto);
+    Portada{portada_}.muestra(duracion);
 }
 
 void VistaMenu::cargaMenuFoto(const std::string& foto) {
-    foto_->setPixmap(encajada(cargaImagen(almacen_, foto), foto_->size(), devicePixelRatioF()));
+    const QPixmap portada = portada_.isNull() ? cargaImagen(almacen_, foto) : std::exchange(portada_, {});
+    foto_->setPixmap(encajada(portada, foto_->size(), devicePixelRatioF()));
 }
 
 Imagen VistaMenu::cargaLogoOrvemo(const std::string& foto) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
 #include <vector>
 
@@ -49,6 +50,7 @@ class VistaMenu final : public QWidget, public VistaPrograma {
     Supuesto* menu_;
     BotonLogo* logo_;
     QLabel* foto_;
+    QPixmap portada_;  ///< from the cover to the menu, which shows the same picture
     std::vector<BotonOpcion*> opciones_;
 };
 

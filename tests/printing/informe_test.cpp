@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "papel.h"
+#include "printing/informe.h"
 
 namespace orvemo {
 namespace {
@@ -76,6 +77,17 @@ TEST_F(InformeTest, APrinterThatFailsAnywhereSaysSoAndTheNextReportIsWhole) {
             break;
         }
     }
+}
+
+// The income tax's dotted lines align in letters of one width, and its date stands above the rest.
+TEST_F(InformeTest, ABodyMayHaveItsOwnLettersAndBeginning) {
+    Informe informe{rutinas, "RENTA", {.fuente = "Courier New", .tamano = 10, .comienzo = 4.0F}};
+    informe.linea("Fecha: 15-06-2005");
+    informe.salta(6.0F);
+    informe.linea("NIF ...");
+    EXPECT_EQ(papel.dibujo()[1], "Texto 0,2.7 Arial 12 «RENTA»");
+    EXPECT_EQ(papel.dibujo()[5], "Texto 1,4 Courier New 10 «Fecha: 15-06-2005»");
+    EXPECT_EQ(papel.dibujo()[6], "Texto 1,6 Courier New 10 «NIF ...»");
 }
 
 // --- Page breaks: the last place where a line may start is 25.69665 cm

@@ -13,7 +13,7 @@
 #include "shell/config_frm.h"
 #include "shell/fondo_frm.h"
 #include "shell/presenta_frm.h"
-#include "toolkit/estilo.h"
+#include "toolkit/instalacion.h"
 #include "toolkit/textos_qt.h"
 #include "toolkit/vista_formulario.h"
 

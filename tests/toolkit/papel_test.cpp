@@ -206,7 +206,9 @@ TEST(HojaTest, WhatPassesThePrintableEdgeIsBroughtBack) {
     hoja.textos = {{.x = 1, .y = 5, .ancho = 10, .fuente = {}, .texto = {}},
                    {.x = 11, .y = 5, .ancho = 10, .fuente = {}, .texto = {}},
                    {.x = 1, .y = 6, .ancho = 19, .fuente = {}, .texto = {}},
-                   {.x = 25, .y = 7, .ancho = 2, .fuente = {}, .texto = {}}};
+                   {.x = 25, .y = 7, .ancho = 2, .fuente = {}, .texto = {}},
+                   {.x = 3, .y = 8, .ancho = 9, .fuente = {}, .texto = {}},
+                   {.x = 15, .y = 8, .ancho = 10, .fuente = {}, .texto = {}}};
     hoja.lineas = {{0, 3, 21, 3}, {0, 4, 20, 4}};
     hoja.cajas = {{0, 3, 22, 3.1}};
     encaja(hoja, 20);
@@ -215,6 +217,9 @@ TEST(HojaTest, WhatPassesThePrintableEdgeIsBroughtBack) {
     EXPECT_DOUBLE_EQ(hoja.textos[1].x, 10.5);
     EXPECT_DOUBLE_EQ(hoja.textos[2].estrechez, 1) << "just fits";
     EXPECT_DOUBLE_EQ(hoja.textos[3].estrechez, 1) << "lies wholly outside and stays there";
+    EXPECT_DOUBLE_EQ(hoja.textos[4].estrechez, 1) << "another cell of a form's row";
+    EXPECT_DOUBLE_EQ(hoja.textos[5].x, 15) << "the long name, where its cell begins";
+    EXPECT_DOUBLE_EQ(hoja.textos[5].estrechez, 0.5);
     EXPECT_DOUBLE_EQ(hoja.lineas[0].x2, 20);
     EXPECT_DOUBLE_EQ(hoja.lineas[1].x2, 20);
     EXPECT_DOUBLE_EQ(hoja.cajas[0].x2, 20);

@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "apoyo/entorno_falso.h"
-#include "toolkit/estilo.h"
+#include "toolkit/instalacion.h"
 #include "toolkit/mensajes_qt.h"
 #include "toolkit/textos_qt.h"
 #include "toolkit/vista_formulario.h"

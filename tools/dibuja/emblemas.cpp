@@ -7,7 +7,7 @@
 #include <numbers>
 
 #include "lienzo.h"
-#include "paleta.h"
+#include "toolkit/paleta.h"
 
 namespace orvemo::dibuja {
 
@@ -22,10 +22,10 @@ constexpr double kTrazo = 4.5;  // of the emblems, which are drawn on a square o
 
 void trazo(QPainter& pincel, double grueso = kTrazo) {
     pincel.setBrush(Qt::NoBrush);
-    pincel.setPen(QPen(kAcento, grueso, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    pincel.setPen(QPen(kColorAcento, grueso, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
-void relleno(QPainter& pincel, QColor color = kAcento) {
+void relleno(QPainter& pincel, QColor color = kColorAcento) {
     pincel.setPen(Qt::NoPen);
     pincel.setBrush(color);
 }
@@ -73,8 +73,8 @@ void dibujaFamilia(QPainter& pincel) {
     relleno(pincel);
     dibujaPersona(pincel, {-18, -23}, 9);
     dibujaPersona(pincel, {18, -23}, 9);
-    pincel.setPen(QPen(kAcentoPalido, kTrazo));
-    pincel.setBrush(kAcentoClaro);
+    pincel.setPen(QPen(kColorAcentoPalido, kTrazo));
+    pincel.setBrush(kColorAcentoClaro);
     dibujaPersona(pincel, {0, -1}, 8);
 }
 
@@ -84,8 +84,8 @@ void dibujaMaletin(QPainter& pincel) {
     pincel.drawRoundedRect(QRectF(-36, -17, 60, 42), 5, 5);
     pincel.drawPolyline(QPolygonF({{-17, -17}, {-17, -28}, {5, -28}, {5, -17}}));
     pincel.drawLine(QPointF(-36, 2), QPointF(24, 2));
-    pincel.setBrush(kAcentoPalido);
-    pincel.setPen(QPen(kAcentoPalido, 14));
+    pincel.setBrush(kColorAcentoPalido);
+    pincel.setPen(QPen(kColorAcentoPalido, 14));
     pincel.drawEllipse(QPointF(19, 14), 12, 12);
     trazo(pincel);
     pincel.drawEllipse(QPointF(19, 14), 12, 12);
@@ -102,7 +102,7 @@ void dibujaEscudo(QPainter& pincel) {
     escudo.cubicTo(-20, -26, -10, -28, 0, -36);
     relleno(pincel);
     pincel.drawPath(escudo);
-    relleno(pincel, kBlanco);
+    relleno(pincel, kColorBase);
     pincel.drawRect(QRectF(-5, -19, 10, 34));
     pincel.drawRect(QRectF(-17, -7, 34, 10));
 }
@@ -116,19 +116,19 @@ void dibujaLetra(QPainter& pincel, QPointF centro, const QString& letras, double
 /// Payroll: a payslip.
 void dibujaRecibo(QPainter& pincel) {
     trazo(pincel);
-    pincel.setBrush(kBlanco);
+    pincel.setBrush(kColorBase);
     pincel.drawRoundedRect(QRectF(-26, -36, 52, 72), 4, 4);
     for (const double y : {-22.0, -11.0, 0.0}) {
         pincel.drawLine(QPointF(-15, y), QPointF(15, y));
     }
-    dibujaLetra(pincel, {0, 19}, QStringLiteral("€"), 28, kAcento);
+    dibujaLetra(pincel, {0, 19}, QStringLiteral("€"), 28, kColorAcento);
 }
 
 /// Taxes: the part that is kept back.
 void dibujaPorcentaje(QPainter& pincel) {
     relleno(pincel);
     pincel.drawEllipse(QPointF(0, 0), 36, 36);
-    pincel.setPen(QPen(kBlanco, 5, Qt::SolidLine, Qt::RoundCap));
+    pincel.setPen(QPen(kColorBase, 5, Qt::SolidLine, Qt::RoundCap));
     pincel.drawLine(QPointF(-13, 16), QPointF(13, -16));
     pincel.setBrush(Qt::NoBrush);
     pincel.drawEllipse(QPointF(-13, -11), 6.5, 6.5);
@@ -153,7 +153,7 @@ void dibujaMonedas(QPainter& pincel) {
 /// Any other subject: an open book.
 void dibujaLibro(QPainter& pincel) {
     trazo(pincel);
-    pincel.setBrush(kBlanco);
+    pincel.setBrush(kColorBase);
     for (const double lado : {-1.0, 1.0}) {
         QPainterPath hoja(QPointF(0, -20));
         hoja.cubicTo(lado * 10, -28, lado * 26, -28, lado * 36, -22);
@@ -196,15 +196,15 @@ void (*emblemaDe(const QString& materia))(QPainter&) {
 }
 
 void dibujaFondo(int numero, const QString& materia) {
-    Lienzo lienzo(kAncho, kAlto, kPanel);
+    Lienzo lienzo(kAncho, kAlto, kColorPanel);
     QPainter& pincel = lienzo.pincel();
-    relleno(pincel, kAcentoPalido);
+    relleno(pincel, kColorAcentoPalido);
     pincel.drawEllipse(kDisco);
     pincel.save();
     pincel.translate(kDisco.center());
     emblemaDe(materia)(pincel);
     pincel.restore();
-    lienzo.parrafo(kRotulo, materia, kCuerpoRotulo, kTexto, QFont::Bold, Qt::AlignHCenter);
+    lienzo.parrafo(kRotulo, materia, kCuerpoRotulo, kColorTexto, QFont::Bold, Qt::AlignHCenter);
     lienzo.guarda(QStringLiteral("fondo%1.bmp").arg(numero));
 }
 

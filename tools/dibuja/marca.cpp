@@ -4,7 +4,7 @@
 #include <array>
 
 #include "lienzo.h"
-#include "paleta.h"
+#include "toolkit/paleta.h"
 
 namespace orvemo::dibuja {
 
@@ -28,10 +28,10 @@ constexpr double kRadioEsquina = 0.15;  // the same
 /// The mark in white on a square of the house's colour with round corners.
 void dibujaPlaca(QPainter& pincel, double lado) {
     pincel.setPen(Qt::NoPen);
-    pincel.setBrush(kAcento);
+    pincel.setBrush(kColorAcento);
     pincel.drawRoundedRect(QRectF(0, 0, lado, lado), lado * kRadioEsquina, lado * kRadioEsquina);
     const double margen = lado * kMargen;
-    dibujaMarca(pincel, {margen, margen, lado - 2 * margen, lado - 2 * margen}, {kBlanco, kBlanco});
+    dibujaMarca(pincel, {margen, margen, lado - 2 * margen, lado - 2 * margen}, {kColorBase, kColorBase});
 }
 
 void dibujaIcono(int lado) {
@@ -62,7 +62,7 @@ void dibujaMarca(QPainter& pincel, QRectF caja, ColoresMarca colores) {
 }
 
 void dibujaLogo() {
-    Lienzo lienzo(kLadoLogo, kLadoLogo, kPanel);
+    Lienzo lienzo(kLadoLogo, kLadoLogo, kColorPanel);
     dibujaPlaca(lienzo.pincel(), kLadoLogo);
     lienzo.guarda(QStringLiteral("logo.bmp"));
 }

@@ -2,7 +2,7 @@
 
 #include "lienzo.h"
 #include "marca.h"
-#include "paleta.h"
+#include "toolkit/paleta.h"
 
 namespace orvemo::dibuja {
 
@@ -21,12 +21,12 @@ constexpr QColor kTonoBarras{0x41, 0x73, 0xA1};
 }  // namespace
 
 void dibujaPortada() {
-    Lienzo lienzo(kAncho, kAlto, kAcento);
+    Lienzo lienzo(kAncho, kAlto, kColorAcento);
     dibujaMarca(lienzo.pincel(), kMarcaDeFondo, {kTono, kTonoBarras});
-    lienzo.linea({kMargen, 196}, QStringLiteral("PENSIONES"), 62, kBlanco, QFont::Bold);
-    lienzo.linea({kMargen, 262}, QStringLiteral("ORVEMO"), 62, kBlanco, QFont::Bold);
-    lienzo.linea({kMargen, 348}, QStringLiteral("Simulador de prestaciones,"), 25, kAcentoPalido);
-    lienzo.linea({kMargen, 382}, QStringLiteral("retenciones y nóminas. Año 2005"), 25, kAcentoPalido);
+    lienzo.linea({kMargen, 196}, QStringLiteral("PENSIONES"), 62, kColorBase, QFont::Bold);
+    lienzo.linea({kMargen, 262}, QStringLiteral("ORVEMO"), 62, kColorBase, QFont::Bold);
+    lienzo.linea({kMargen, 348}, QStringLiteral("Simulador de prestaciones,"), 25, kColorAcentoPalido);
+    lienzo.linea({kMargen, 382}, QStringLiteral("retenciones y nóminas. Año 2005"), 25, kColorAcentoPalido);
     lienzo.guarda(QStringLiteral("portada.bmp"));
 }
 

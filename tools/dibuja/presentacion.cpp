@@ -4,7 +4,7 @@
 #include <array>
 
 #include "lienzo.h"
-#include "paleta.h"
+#include "toolkit/paleta.h"
 
 namespace orvemo::dibuja {
 
@@ -63,20 +63,20 @@ constexpr std::array<Pagina, 3> kPaginas{{
 
 double dibujaApartado(Lienzo& lienzo, double y, const Apartado& apartado) {
     QPainter& pincel = lienzo.pincel();
-    pincel.setBrush(kAcentoClaro);
+    pincel.setBrush(kColorAcentoClaro);
     pincel.drawEllipse(QPointF(kMargen + 5, y + 11), 5, 5);
     const double x = kMargen + kSangria;
     const QRectF caja(x, y, kAncho - kMargen - x, kAlto - y);
-    y += lienzo.parrafo(caja, QString::fromUtf8(apartado.titulo), 18, kTexto, QFont::Bold) + 2;
+    y += lienzo.parrafo(caja, QString::fromUtf8(apartado.titulo), 18, kColorTexto, QFont::Bold) + 2;
     y += lienzo.parrafo({x, y, caja.width(), kAlto - y}, QString::fromUtf8(apartado.texto), 17,
-                        kTextoSecundario);
+                        kColorTextoSecundario);
     return y + 18;
 }
 
 void dibujaPagina(const Pagina& pagina) {
-    Lienzo lienzo(kAncho, kAlto, kPanel);
-    lienzo.linea({kMargen, 10}, QString::fromUtf8(pagina.titulo), 28, kAcento, QFont::Bold);
-    lienzo.pincel().setBrush(kAcentoClaro);
+    Lienzo lienzo(kAncho, kAlto, kColorPanel);
+    lienzo.linea({kMargen, 10}, QString::fromUtf8(pagina.titulo), 28, kColorAcento, QFont::Bold);
+    lienzo.pincel().setBrush(kColorAcentoClaro);
     lienzo.pincel().drawRect(QRectF(kMargen, 48, 44, 4));
     double y = 70;
     for (const Apartado& apartado : pagina.apartados) {
