@@ -15,13 +15,13 @@ inline constexpr int kAnioNomina = 2005;
 /// What a payslip is computed from, besides the record itself. Texts have the width of their field, padded
 /// with blanks. Amounts in euros.
 struct Entradas {
-    Fecha FechaInicio = kFechaCero;  ///< start of the contract
-    Fecha FinMes = kFechaCero;       ///< last day of the payslip's month
-    std::uint8_t Mes = 0;            ///< 1 to 12
+    Fecha FechaInicio = kFechaCero;   ///< start of the contract
+    Fecha FinMes = kFechaCero;        ///< last day of the payslip's month
+    std::uint8_t Mes = 0;             ///< 1 to 12
     std::int32_t IndiceContrato = 0;  ///< row of `Contratos`, from 1
-    std::uint8_t Grupo = 0;          ///< contribution group, 1 to 11
-    double CoefPluriempleo = 0;      ///< 1 for a whole working day
-    double CoefDesempleo = 0;        ///< partial unemployment, 0 to 1
+    std::uint8_t Grupo = 0;           ///< contribution group, 1 to 11
+    double CoefPluriempleo = 0;       ///< 1 for a whole working day
+    double CoefDesempleo = 0;         ///< partial unemployment, 0 to 1
     double Promedio6Meses = 0;
     std::int16_t Edad = 0;
     std::string Epigrafe{};
@@ -51,36 +51,38 @@ struct Entradas {
     /// Training contracts, of flat bases and quotas.
     [[nodiscard]] bool esFormacion() const { return CodigoContrato == "087 "; }
     [[nodiscard]] bool esFormacion2() const { return CodigoContrato == "421A"; }
+    [[nodiscard]] bool tieneCuotasFijas() const { return esFormacion() || esFormacion2(); }
+    /// Neither an extra pay, which bears no quotas, nor a contract of fixed ones.
+    [[nodiscard]] bool cotizaPorTipos() const { return !esPagaExtra() && !tieneCuotasFijas(); }
 };
 
-inline constexpr std::tuple kCamposEntradas{
-    Nombrado{"FechaInicio", &Entradas::FechaInicio},
-    Nombrado{"FinMes", &Entradas::FinMes},
-    Nombrado{"Mes", &Entradas::Mes},
-    Nombrado{"IndiceContrato", &Entradas::IndiceContrato},
-    Nombrado{"Grupo", &Entradas::Grupo},
-    Nombrado{"CoefPluriempleo", &Entradas::CoefPluriempleo},
-    Nombrado{"CoefDesempleo", &Entradas::CoefDesempleo},
-    Nombrado{"Promedio6Meses", &Entradas::Promedio6Meses},
-    Nombrado{"Edad", &Entradas::Edad},
-    Nombrado{"Epigrafe", &Entradas::Epigrafe},
-    Nombrado{"CodigoContrato", &Entradas::CodigoContrato},
-    Nombrado{"ClaveContrato", &Entradas::ClaveContrato},
-    Nombrado{"ParcialDias", &Entradas::ParcialDias},
-    Nombrado{"ParcialHoras", &Entradas::ParcialHoras},
-    Nombrado{"BaseCCAnt", &Entradas::BaseCCAnt},
-    Nombrado{"BaseATEPAnt", &Entradas::BaseATEPAnt},
-    Nombrado{"HEMesAnt", &Entradas::HEMesAnt},
-    Nombrado{"HEAnioAnt", &Entradas::HEAnioAnt},
-    Nombrado{"DiasAnt", &Entradas::DiasAnt},
-    Nombrado{"FechaCese", &Entradas::FechaCese},
-    Nombrado{"TipoPaga", &Entradas::TipoPaga},
-    Nombrado{"ModoContrato", &Entradas::ModoContrato},
-    Nombrado{"OtrasDeducciones", &Entradas::OtrasDeducciones},
-    Nombrado{"HorasDiarias", &Entradas::HorasDiarias},
-    Nombrado{"DiasSemana", &Entradas::DiasSemana},
-    Nombrado{"Dias12", &Entradas::Dias12},
-    Nombrado{"Base12", &Entradas::Base12},
-    Nombrado{"ContratoParcial", &Entradas::ContratoParcial}};
+inline constexpr std::tuple kCamposEntradas{Nombrado{"FechaInicio", &Entradas::FechaInicio},
+                                            Nombrado{"FinMes", &Entradas::FinMes},
+                                            Nombrado{"Mes", &Entradas::Mes},
+                                            Nombrado{"IndiceContrato", &Entradas::IndiceContrato},
+                                            Nombrado{"Grupo", &Entradas::Grupo},
+                                            Nombrado{"CoefPluriempleo", &Entradas::CoefPluriempleo},
+                                            Nombrado{"CoefDesempleo", &Entradas::CoefDesempleo},
+                                            Nombrado{"Promedio6Meses", &Entradas::Promedio6Meses},
+                                            Nombrado{"Edad", &Entradas::Edad},
+                                            Nombrado{"Epigrafe", &Entradas::Epigrafe},
+                                            Nombrado{"CodigoContrato", &Entradas::CodigoContrato},
+                                            Nombrado{"ClaveContrato", &Entradas::ClaveContrato},
+                                            Nombrado{"ParcialDias", &Entradas::ParcialDias},
+                                            Nombrado{"ParcialHoras", &Entradas::ParcialHoras},
+                                            Nombrado{"BaseCCAnt", &Entradas::BaseCCAnt},
+                                            Nombrado{"BaseATEPAnt", &Entradas::BaseATEPAnt},
+                                            Nombrado{"HEMesAnt", &Entradas::HEMesAnt},
+                                            Nombrado{"HEAnioAnt", &Entradas::HEAnioAnt},
+                                            Nombrado{"DiasAnt", &Entradas::DiasAnt},
+                                            Nombrado{"FechaCese", &Entradas::FechaCese},
+                                            Nombrado{"TipoPaga", &Entradas::TipoPaga},
+                                            Nombrado{"ModoContrato", &Entradas::ModoContrato},
+                                            Nombrado{"OtrasDeducciones", &Entradas::OtrasDeducciones},
+                                            Nombrado{"HorasDiarias", &Entradas::HorasDiarias},
+                                            Nombrado{"DiasSemana", &Entradas::DiasSemana},
+                                            Nombrado{"Dias12", &Entradas::Dias12},
+                                            Nombrado{"Base12", &Entradas::Base12},
+                                            Nombrado{"ContratoParcial", &Entradas::ContratoParcial}};
 
 }  // namespace orvemo::nomina

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <tuple>
 
+#include "foundations/values/octeto.h"
 #include "payroll/caso/nombrado.h"
 
 namespace orvemo::nomina {
@@ -12,31 +12,34 @@ struct RegistroNomina;
 
 /// The days of the month. Counters are bytes: more days of leave than the month has are a failure.
 struct Dias {
-    std::uint8_t DiasMes = 0;            ///< days of the month; February has 29
-    std::uint8_t DiasTrabajados = 0;     ///< at the company's charge
-    std::uint8_t DiasCotizados = 0;      ///< contributed
-    std::uint8_t DiasBajaCotizados = 0;  ///< contributed less worked when there is leave
-    std::uint8_t DiasNoCotizados = 0;
-    std::uint8_t DiasPermiso = 0;        ///< unpaid leave
-    std::uint8_t DiasHuelga = 0;         ///< strike or suspension
-    std::uint8_t DiasFueraContrato = 0;  ///< before the start or after the leaving date
-    std::uint8_t DiasBaja = 0;           ///< sick leave, work accident and maternity
-    std::uint8_t DiasIT = 0;             ///< sick leave, and its stages
-    std::uint8_t DiasIT1a3 = 0;
-    std::uint8_t DiasIT4a15 = 0;
-    std::uint8_t DiasIT16a20 = 0;
-    std::uint8_t DiasIT21 = 0;
-    std::uint8_t LabIT = 0;  ///< those that fall on working days
-    std::uint8_t LabIT1a3 = 0;
-    std::uint8_t LabIT4a15 = 0;
-    std::uint8_t LabIT16a20 = 0;
-    std::uint8_t LabIT21 = 0;
-    std::uint8_t LabMes = 0;   ///< working days of the month of a part-time contract
-    std::uint8_t LabAT = 0;    ///< working days of the work-accident leave
-    std::uint8_t LabMat = 0;   ///< working days of the maternity leave
-    std::uint8_t DiasAT = 0;   ///< work accident
-    std::uint8_t DiasMat = 0;  ///< maternity
-    std::uint8_t OrdenIT = 0;  ///< running number of the sick-leave day, across both incidences
+    Octeto DiasMes;            ///< days of the month; February has 29
+    Octeto DiasTrabajados;     ///< at the company's charge
+    Octeto DiasCotizados;      ///< contributed
+    Octeto DiasBajaCotizados;  ///< contributed less worked when there is leave
+    Octeto DiasNoCotizados;
+    Octeto DiasPermiso;        ///< unpaid leave
+    Octeto DiasHuelga;         ///< strike or suspension
+    Octeto DiasFueraContrato;  ///< before the start or after the leaving date
+    Octeto DiasBaja;           ///< sick leave, work accident and maternity
+    Octeto DiasIT;             ///< sick leave, and its stages
+    Octeto DiasIT1a3;
+    Octeto DiasIT4a15;
+    Octeto DiasIT16a20;
+    Octeto DiasIT21;
+    Octeto LabIT;  ///< those that fall on working days
+    Octeto LabIT1a3;
+    Octeto LabIT4a15;
+    Octeto LabIT16a20;
+    Octeto LabIT21;
+    Octeto LabMes;   ///< working days of the month of a part-time contract
+    Octeto LabAT;    ///< working days of the work-accident leave
+    Octeto LabMat;   ///< working days of the maternity leave
+    Octeto DiasAT;   ///< work accident
+    Octeto DiasMat;  ///< maternity
+    Octeto OrdenIT;  ///< running number of the sick-leave day, across both incidences
+
+    /// Days of leave that fall on the working days of the contract's week.
+    [[nodiscard]] int laborablesDeBaja() const { return LabIT + LabAT + LabMat; }
 };
 
 inline constexpr std::tuple kCamposDias{Nombrado{"DiasMes", &Dias::DiasMes},
