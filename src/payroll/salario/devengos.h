@@ -17,9 +17,9 @@ inline constexpr std::size_t kLineas = 12;  ///< six concepts and six added line
 
 /// Lines of the receipt and what they add up to, euros.
 struct Devengos {
-    double AcumBaseCC = 0;  ///< concepts that enter the base for common contingencies
-    double AcumBaseAT = 0;  ///< concepts that enter the base for accidents
-    double BaseIRPF = 0;    ///< concepts that enter the base of the tax
+    double AcumBaseCC = 0;       ///< concepts that enter the base for common contingencies
+    double AcumBaseAT = 0;       ///< concepts that enter the base for accidents
+    double BaseIRPF = 0;         ///< concepts that enter the base of the tax
     double HorasExtraFM = 0;     ///< overtime by force majeure
     double HorasExtraResto = 0;  ///< other overtime
     double Proporcion = 1;       ///< part of the extra pay earned
@@ -37,22 +37,21 @@ struct Devengos {
 };
 
 /// `AcumBaseCC` and `AcumBaseAT` are told with the bases, which have the last word on them.
-inline constexpr std::tuple kCamposDevengos{
-    Nombrado{"BaseIRPF", &Devengos::BaseIRPF},
-    Nombrado{"HorasExtraFM", &Devengos::HorasExtraFM},
-    Nombrado{"HorasExtraResto", &Devengos::HorasExtraResto},
-    Nombrado{"Proporcion", &Devengos::Proporcion},
-    Nombrado{"NumLineas", &Devengos::NumLineas},
-    Nombrado{"LineaImporte", &Devengos::LineaImporte},
-    Nombrado{"LineaCodigo", &Devengos::LineaCodigo},
-    Nombrado{"LineaSalarial", &Devengos::LineaSalarial},
-    Nombrado{"TotalDevengado", &Devengos::TotalDevengado},
-    Nombrado{"TipoIRPF", &Devengos::TipoIRPF},
-    Nombrado{"RetencionIRPF", &Devengos::RetencionIRPF},
-    Nombrado{"Anticipos", &Devengos::Anticipos},
-    Nombrado{"PagoEspecie", &Devengos::PagoEspecie},
-    Nombrado{"IngresoCuentaEspecie", &Devengos::IngresoCuentaEspecie},
-    Nombrado{"PPExtras", &Devengos::PPExtras}};
+inline constexpr std::tuple kCamposDevengos{Nombrado{"BaseIRPF", &Devengos::BaseIRPF},
+                                            Nombrado{"HorasExtraFM", &Devengos::HorasExtraFM},
+                                            Nombrado{"HorasExtraResto", &Devengos::HorasExtraResto},
+                                            Nombrado{"Proporcion", &Devengos::Proporcion},
+                                            Nombrado{"NumLineas", &Devengos::NumLineas},
+                                            Nombrado{"LineaImporte", &Devengos::LineaImporte},
+                                            Nombrado{"LineaCodigo", &Devengos::LineaCodigo},
+                                            Nombrado{"LineaSalarial", &Devengos::LineaSalarial},
+                                            Nombrado{"TotalDevengado", &Devengos::TotalDevengado},
+                                            Nombrado{"TipoIRPF", &Devengos::TipoIRPF},
+                                            Nombrado{"RetencionIRPF", &Devengos::RetencionIRPF},
+                                            Nombrado{"Anticipos", &Devengos::Anticipos},
+                                            Nombrado{"PagoEspecie", &Devengos::PagoEspecie},
+                                            Nombrado{"IngresoCuentaEspecie", &Devengos::IngresoCuentaEspecie},
+                                            Nombrado{"PPExtras", &Devengos::PPExtras}};
 
 /// All the lines of the receipt, with the withholding at the end. Throws DesbordeNumerico for a thirteenth
 /// line.
