@@ -12,7 +12,7 @@ struct RegistroNomina;
 
 /// The final settlement, euros; all 0 without a leaving date.
 struct Finiquito {
-    double PPVacaciones = 0;  ///< holidays earned and not taken; negative when taken in excess
+    double PPVacaciones = 0;           ///< holidays earned and not taken; negative when taken in excess
     std::array<double, 4> ExtraFin{};  ///< part earned of each extra pay
     double IndExtincion = 0;           ///< severance
     double IndCompensacion = 0;        ///< additional compensation
