@@ -26,8 +26,8 @@ struct Bases {
     double BaseATBaja = 0;     ///< accidents, days of leave
     double BaseATBajaSinMat = 0;
     double BaseATBajaMat = 0;
-    double BaseTotalCC = 0;     ///< `BasePermiso` + `BaseCC` + `BaseIT`
-    double BaseParo = 0;        ///< unemployment, FOGASA and training
+    double BaseTotalCC = 0;  ///< `BasePermiso` + `BaseCC` + `BaseIT`
+    double BaseParo = 0;     ///< unemployment, FOGASA and training
     double BaseParo2 = 0, BaseParo3 = 0, BaseParo4 = 0;
     double BaseParoSinMat = 0;  ///< the same without the maternity days
     double BaseParcial = 0;     ///< partial unemployment
