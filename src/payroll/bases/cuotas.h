@@ -42,6 +42,7 @@ struct CuotasParo {
     double EmpresaFogasaParcial = 0, EmpresaParoParcial = 0, EmpresaFPParcial = 0;
     double TipoParoTrabajador = 0, TipoFPTrabajador = 0;
     double TipoParoTotal = 0, TipoFPTotal = 0, TipoFogasa = 0;
+    double TipoParoTrabajadorParcial = 0, TipoFPTrabajadorParcial = 0;
     double TipoParoTotalParcial = 0, TipoFPTotalParcial = 0, TipoFogasaParcial = 0;
 };
 
@@ -49,7 +50,8 @@ struct CuotasParo {
 struct CuotasHorasExtra {
     double CuotaHEFM = 0, CuotaHEResto = 0;  ///< the worker's
     double EmpresaHEFM = 0, EmpresaHEResto = 0;
-    double TipoHEFM = 0, TipoHEResto = 0;
+    double TipoHEFM = 0, TipoHEResto = 0;  ///< both
+    double TipoHEFMTrabajador = 0, TipoHERestoTrabajador = 0;
 };
 
 /// What the worker is left with, euros.
@@ -112,6 +114,8 @@ inline constexpr std::tuple kCamposCuotasParo{
     Nombrado{"TipoParoTotal", &CuotasParo::TipoParoTotal},
     Nombrado{"TipoFPTotal", &CuotasParo::TipoFPTotal},
     Nombrado{"TipoFogasa", &CuotasParo::TipoFogasa},
+    Nombrado{"TipoParoTrabajadorParcial", &CuotasParo::TipoParoTrabajadorParcial},
+    Nombrado{"TipoFPTrabajadorParcial", &CuotasParo::TipoFPTrabajadorParcial},
     Nombrado{"TipoParoTotalParcial", &CuotasParo::TipoParoTotalParcial},
     Nombrado{"TipoFPTotalParcial", &CuotasParo::TipoFPTotalParcial},
     Nombrado{"TipoFogasaParcial", &CuotasParo::TipoFogasaParcial}};
@@ -122,11 +126,20 @@ inline constexpr std::tuple kCamposCuotasHorasExtra{
     Nombrado{"EmpresaHEFM", &CuotasHorasExtra::EmpresaHEFM},
     Nombrado{"EmpresaHEResto", &CuotasHorasExtra::EmpresaHEResto},
     Nombrado{"TipoHEFM", &CuotasHorasExtra::TipoHEFM},
-    Nombrado{"TipoHEResto", &CuotasHorasExtra::TipoHEResto}};
+    Nombrado{"TipoHEResto", &CuotasHorasExtra::TipoHEResto},
+    Nombrado{"TipoHEFMTrabajador", &CuotasHorasExtra::TipoHEFMTrabajador},
+    Nombrado{"TipoHERestoTrabajador", &CuotasHorasExtra::TipoHERestoTrabajador}};
 
 inline constexpr std::tuple kCamposTotales{Nombrado{"TotalSS", &Totales::TotalSS},
                                            Nombrado{"TotalDeducir", &Totales::TotalDeducir},
                                            Nombrado{"Liquido", &Totales::Liquido}};
+
+[[nodiscard]] CuotasCC CalculaCuotasCC(const EstadoNomina& Estado);
+[[nodiscard]] CuotasAT CalculaCuotasAT(const EstadoNomina& Estado, const TablasNomina& tablas);
+[[nodiscard]] CuotasParo CalculaCuotasParo(const EstadoNomina& Estado);
+/// Ordinary payslips alone, and not those of training contracts.
+[[nodiscard]] CuotasHorasExtra CalculaCuotasHorasExtra(const EstadoNomina& Estado);
+[[nodiscard]] Totales CalculaTotales(const EstadoNomina& Estado);
 
 /// Fills the incentives, the quotas, the bonuses and the totals of `Estado`, in this order.
 void CalculaCuotas(EstadoNomina& Estado, const TablasNomina& tablas);

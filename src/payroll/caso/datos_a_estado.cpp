@@ -21,7 +21,8 @@ constexpr std::array kMesesDe31{1, 3, 5, 7, 8, 10, 12};
 /// A text of the record as wide as its field, blanks where nothing was written.
 template <std::size_t N>
 std::string aSuAncho(const Texto<N>& texto) {
-    const std::string bytes{texto.bytes().begin(), std::find(texto.bytes().begin(), texto.bytes().end(), '\0')};
+    const std::string bytes{texto.bytes().begin(),
+                            std::find(texto.bytes().begin(), texto.bytes().end(), '\0')};
     return AlAncho(De1252(bytes), N);
 }
 

@@ -15,18 +15,18 @@ inline constexpr int kExtrasFin = 4;    ///< extra pays of a settlement; the rec
 struct RegistroNomina {
     Texto<1> Libre;
     Texto<80> Nombre;
-    Texto<80> Descripcion;            ///< the same as `Nombre`
-    std::uint8_t Mes = 0;             ///< 0 for January to 11 for December
-    Texto<10> FechaInicio;            ///< start of the contract
-    Texto<10> FechaCese;              ///< date of leaving, may be blank
-    std::uint8_t TipoPaga = 0;        ///< 1 on an extra pay
+    Texto<80> Descripcion;      ///< the same as `Nombre`
+    std::uint8_t Mes = 0;       ///< 0 for January to 11 for December
+    Texto<10> FechaInicio;      ///< start of the contract
+    Texto<10> FechaCese;        ///< date of leaving, may be blank
+    std::uint8_t TipoPaga = 0;  ///< 1 on an extra pay
     Texto<3> reservado1;
-    std::uint8_t Categoria = 0;       ///< contribution group, from 0 in list order
+    std::uint8_t Categoria = 0;  ///< contribution group, from 0 in list order
     Texto<3> Epigrafe;
     std::array<std::uint8_t, 2> NumPagas{};  ///< number of extra pays of each amount
     std::array<std::uint8_t, 10> reservado2{};
-    Texto<8> Desempleo;               ///< coefficient of partial unemployment
-    Texto<6> Pluriempleo;             ///< percentage of pluriemployment or reduced hours
+    Texto<8> Desempleo;    ///< coefficient of partial unemployment
+    Texto<6> Pluriempleo;  ///< percentage of pluriemployment or reduced hours
     std::uint8_t Edad = 0;
     std::array<Texto<2>, 7> CodigoConcepto;
     std::array<double, 3> PagaExtra{};
@@ -34,43 +34,43 @@ struct RegistroNomina {
     std::array<Texto<1>, 3> CodigoIncidencia;
     std::array<std::uint8_t, 3> DiaInicioInci{};
     std::array<std::uint8_t, 3> DiaFinInci{};
-    Texto<10> FechaExtra1;            ///< period that earns the extra pay
+    Texto<10> FechaExtra1;  ///< period that earns the extra pay
     Texto<10> FechaExtra2;
-    std::uint8_t ParcialDias = 0;     ///< days worked, contracts by days
-    std::int32_t ParcialHoras = 0;    ///< hours worked, contracts by hours
-    double Promedio6Meses = 0;        ///< average of the bases of the last 6 months
-    std::int32_t HEAnt = 0;           ///< overtime of the month before the leave
-    std::int32_t HEAnioAnt = 0;       ///< overtime of the year before the leave
-    std::uint8_t DiasAnt = 0;         ///< days contributed before the leave
-    Texto<10> FVac1;                  ///< period that gives the holidays
+    std::uint8_t ParcialDias = 0;   ///< days worked, contracts by days
+    std::int32_t ParcialHoras = 0;  ///< hours worked, contracts by hours
+    double Promedio6Meses = 0;      ///< average of the bases of the last 6 months
+    std::int32_t HEAnt = 0;         ///< overtime of the month before the leave
+    std::int32_t HEAnioAnt = 0;     ///< overtime of the year before the leave
+    std::uint8_t DiasAnt = 0;       ///< days contributed before the leave
+    Texto<10> FVac1;                ///< period that gives the holidays
     Texto<10> FVac2;
-    std::int32_t ImpVac = 0;          ///< real salary for the holiday proportion
-    std::uint8_t DiasVac = 0;         ///< days of holiday already taken
+    std::int32_t ImpVac = 0;             ///< real salary for the holiday proportion
+    std::uint8_t DiasVac = 0;            ///< days of holiday already taken
     std::array<Texto<40>, 5> FConcepto;  ///< extra pays of the settlement
     std::array<Texto<10>, 5> FFec1;
     std::array<Texto<10>, 5> FFec2;
-    double BaseATEPAnt = 0;           ///< base for accidents before the leave
-    double BaseCCAnt = 0;             ///< base for common contingencies before the leave
-    std::int16_t FExtincion = 0;      ///< -1 to compute the severance
-    std::int16_t FPreaviso = 0;       ///< -1 to compute the lack of notice
-    std::int32_t DiasInd = 0;         ///< legal days of severance a year worked
+    double BaseATEPAnt = 0;       ///< base for accidents before the leave
+    double BaseCCAnt = 0;         ///< base for common contingencies before the leave
+    std::int16_t FExtincion = 0;  ///< -1 to compute the severance
+    std::int16_t FPreaviso = 0;   ///< -1 to compute the lack of notice
+    std::int32_t DiasInd = 0;     ///< legal days of severance a year worked
     Texto<1> reservado3;
-    std::int32_t MaxInd = 0;          ///< ceiling of the severance, months
+    std::int32_t MaxInd = 0;  ///< ceiling of the severance, months
     std::uint8_t reservado4 = 0;
     Texto<10> NIF;
     Texto<15> NumMatricula;
     Texto<14> CuentaSS;
     Texto<30> GrupoProfesional;
-    std::int16_t DiasCom = 0;         ///< days of additional compensation a year worked
-    std::uint8_t TipoDes = 0;         ///< cause of leaving, from 0 in list order
-    float IRPFExtra = 0;              ///< withholding percentage
+    std::int16_t DiasCom = 0;  ///< days of additional compensation a year worked
+    std::uint8_t TipoDes = 0;  ///< cause of leaving, from 0 in list order
+    float IRPFExtra = 0;       ///< withholding percentage
     Texto<4> CodigoContrato;
     std::array<double, 7> ImporteConcepto{};
     std::array<double, 5> FImporte{};
-    double HorasDiarias = 0;          ///< daily hours of the contract
-    Texto<7> DiasSemana;              ///< letters of the days of the week worked
-    double Dias12 = 0;                ///< days contributed in the 12 months before the rest
-    double Base12 = 0;                ///< base of those 12 months
+    double HorasDiarias = 0;  ///< daily hours of the contract
+    Texto<7> DiasSemana;      ///< letters of the days of the week worked
+    double Dias12 = 0;        ///< days contributed in the 12 months before the rest
+    double Base12 = 0;        ///< base of those 12 months
     Texto<169> reservado5;
     Texto<2> reservado6;
 };

@@ -118,9 +118,9 @@ constexpr ConceptoNomina kCatalogo[] = {
 };
 // clang-format on
 
-constexpr std::string_view kIncidencias[] = {
-    "1. Baja por Enfermedad ó Accidente no laboral", "2. Baja por Accidente Laboral", "3. Baja por Maternidad",
-    "4. Permiso no retribuido", "5. Huelga/Suspensión de empleo"};
+constexpr std::string_view kIncidencias[] = {"1. Baja por Enfermedad ó Accidente no laboral",
+                                             "2. Baja por Accidente Laboral", "3. Baja por Maternidad",
+                                             "4. Permiso no retribuido", "5. Huelga/Suspensión de empleo"};
 
 /// The item that begins with the code; nullptr when none does.
 const std::string* itemDe(std::string_view Codigo, std::span<const std::string> lista) {
@@ -132,8 +132,8 @@ const std::string* itemDe(std::string_view Codigo, std::span<const std::string> 
 
 std::string TextoFlags(const FlagsConcepto& flags) {
     std::string texto;
-    for (const bool flag : {flags.salarial, flags.sinBaja, flags.sinPermiso, flags.cotizaCC, flags.cotizaAT,
-                            flags.tributa}) {
+    for (const bool flag :
+         {flags.salarial, flags.sinBaja, flags.sinPermiso, flags.cotizaCC, flags.cotizaAT, flags.tributa}) {
         texto += flag ? 'S' : 'N';
     }
     return texto;
@@ -176,7 +176,8 @@ HallazgoConcepto BuscaConcepto(std::string_view Codigo) {
 std::vector<std::string> ListaConceptos() {
     std::vector<std::string> lista;
     for (const ConceptoNomina& concepto : kCatalogo) {
-        if (concepto.visible) lista.push_back(std::string{concepto.Codigo} + ". " + std::string{concepto.Texto});
+        if (concepto.visible)
+            lista.push_back(std::string{concepto.Codigo} + ". " + std::string{concepto.Texto});
     }
     return lista;
 }

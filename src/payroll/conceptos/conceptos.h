@@ -11,12 +11,12 @@ namespace orvemo::nomina {
 
 /// How the amount of a concept behaves in the month.
 struct FlagsConcepto {
-    bool salarial = false;       ///< group "1. Percepciones salariales" of the receipt
-    bool sinBaja = false;        ///< not paid on the days of leave
-    bool sinPermiso = false;     ///< not paid on the days of unpaid leave
-    bool cotizaCC = false;       ///< enters the base for common contingencies
-    bool cotizaAT = false;       ///< enters the base for accidents
-    bool tributa = false;        ///< enters the base of the tax
+    bool salarial = false;    ///< group "1. Percepciones salariales" of the receipt
+    bool sinBaja = false;     ///< not paid on the days of leave
+    bool sinPermiso = false;  ///< not paid on the days of unpaid leave
+    bool cotizaCC = false;    ///< enters the base for common contingencies
+    bool cotizaAT = false;    ///< enters the base for accidents
+    bool tributa = false;     ///< enters the base of the tax
 
     friend constexpr bool operator==(const FlagsConcepto&, const FlagsConcepto&) = default;
 };
@@ -54,7 +54,8 @@ struct ConceptoNomina {
 /// Text of a code as stored; "???" for one that isn't there.
 [[nodiscard]] std::string_view TextoConcepto(std::string_view Codigo);
 
-/// What a typed code finds: 0 for a blank one, -1 for an unknown one, otherwise its row from 1, and its period.
+/// What a typed code finds: 0 for a blank one, -1 for an unknown one, otherwise its row from 1, and its
+/// period.
 struct HallazgoConcepto {
     int indice;
     char Periodicidad;

@@ -42,7 +42,8 @@ std::int32_t plazo(std::int32_t anios) {
 }
 
 std::int32_t enByte(std::int32_t anios) {
-    if (!EntreLimites(anios, 0, int{std::numeric_limits<std::uint8_t>::max()})) throw DesbordeNumerico{anios * 1.0};
+    if (!EntreLimites(anios, 0, int{std::numeric_limits<std::uint8_t>::max()}))
+        throw DesbordeNumerico{anios * 1.0};
     return anios;
 }
 

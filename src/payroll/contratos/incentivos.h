@@ -23,17 +23,16 @@ struct Incentivos {
     bool EsReduccion = false;
 };
 
-inline constexpr std::tuple kCamposIncentivos{
-    Nombrado{"PctBonif", &Incentivos::PctBonif},
-    Nombrado{"PctReduc", &Incentivos::PctReduc},
-    Nombrado{"RecargoDesEmpresa", &Incentivos::RecargoDesEmpresa},
-    Nombrado{"RecargoDesTrab", &Incentivos::RecargoDesTrab},
-    Nombrado{"BonifCC", &Incentivos::BonifCC},
-    Nombrado{"BonifAT", &Incentivos::BonifAT},
-    Nombrado{"BonifFogasa", &Incentivos::BonifFogasa},
-    Nombrado{"BonifFP", &Incentivos::BonifFP},
-    Nombrado{"BonifDes", &Incentivos::BonifDes},
-    Nombrado{"EsReduccion", &Incentivos::EsReduccion}};
+inline constexpr std::tuple kCamposIncentivos{Nombrado{"PctBonif", &Incentivos::PctBonif},
+                                              Nombrado{"PctReduc", &Incentivos::PctReduc},
+                                              Nombrado{"RecargoDesEmpresa", &Incentivos::RecargoDesEmpresa},
+                                              Nombrado{"RecargoDesTrab", &Incentivos::RecargoDesTrab},
+                                              Nombrado{"BonifCC", &Incentivos::BonifCC},
+                                              Nombrado{"BonifAT", &Incentivos::BonifAT},
+                                              Nombrado{"BonifFogasa", &Incentivos::BonifFogasa},
+                                              Nombrado{"BonifFP", &Incentivos::BonifFP},
+                                              Nombrado{"BonifDes", &Incentivos::BonifDes},
+                                              Nombrado{"EsReduccion", &Incentivos::EsReduccion}};
 
 /// What the employer saves, euros: totals and what of them each contingency takes.
 struct Bonificaciones {
