@@ -47,8 +47,7 @@ TEST(Rentas, CadaTarifaSaleTambienPorRecurrencia) {
         esperaIgual(kRentas.Tarifa1(x), haciaAtras(109 - x, una(m.vidas, x)), "T1", x);
         esperaIgual(kRentas.Tarifa2(x), haciaAtras(109 - x, una(m.invalidos, x)), "T2", x);
         esperaIgual(kRentas.Tarifa4(x, Veintitres), haciaAtras(23 - x, una(m.hijos, x)), "T4 23", x);
-        for (int d = 0; d <= 6; ++d)
-            esperaIgual(kRentas.Tarifa3(x, d), kRentas.Tarifa2(x + d), "T3", x, d);
+        for (int d = 0; d <= 6; ++d) esperaIgual(kRentas.Tarifa3(x, d), kRentas.Tarifa2(x + d), "T3", x, d);
         for (int y = 0; y <= 23; ++y) {
             const auto vidas = ambas(una(m.vidas, x), una(m.hijos, y));
             const auto hijos = ambas(una(m.hijos, x), una(m.hijos, y));

@@ -57,11 +57,11 @@ TEST(Tarifas, CadaLecturaVaASuFicheroFilaYColumna) {
 
 TEST(Tarifas, FueraDeSusEdadesDanCero) {
     const float ceros[] = {
-        kDe21.Tarifa1(105),     kDe21.Tarifa1(-1),     kDe21.Tarifa2(103),     kDe21.Tarifa3(15, 7),
-        kDe21.Tarifa3(71, 7),   kDe21.Tarifa3(70, 33), kDe21.Tarifa3(40, -1),  kDe21.Tarifa4(22),
-        kDe23.Tarifa4(24),      kDe21.Tarifa5(70, 0),  kDe21.Tarifa5(70, 22),  kDe21.Tarifa5(71, 1),
-        kDe21.Tarifa6(71, 20),  kDe21.Tarifa6(40, 21), kDe21.Tarifa7(23, 3),   kDe21.Tarifa8(103, 101),
-        kDe21.Tarifa8(104, 50), kDe21.Tarifa8(50, -1), kDe21.Tarifa9(21),      kDe23.Tarifa9(24),
+        kDe21.Tarifa1(105),     kDe21.Tarifa1(-1),     kDe21.Tarifa2(103),    kDe21.Tarifa3(15, 7),
+        kDe21.Tarifa3(71, 7),   kDe21.Tarifa3(70, 33), kDe21.Tarifa3(40, -1), kDe21.Tarifa4(22),
+        kDe23.Tarifa4(24),      kDe21.Tarifa5(70, 0),  kDe21.Tarifa5(70, 22), kDe21.Tarifa5(71, 1),
+        kDe21.Tarifa6(71, 20),  kDe21.Tarifa6(40, 21), kDe21.Tarifa7(23, 3),  kDe21.Tarifa8(103, 101),
+        kDe21.Tarifa8(104, 50), kDe21.Tarifa8(50, -1), kDe21.Tarifa9(21),     kDe23.Tarifa9(24),
     };
     for (const float cero : ceros) EXPECT_EQ(cero, 0) << &cero - ceros;
 }

@@ -52,9 +52,8 @@ double Rentas::Tarifa3(int x, int d) const {
         const auto anio = static_cast<std::size_t>(t);
         return anio < hipotesis_.reciente.size() ? hipotesis_.reciente[anio] : 1;
     };
-    return renta(aniosDeVida(x + d), [&](int j) {
-        return 1 - std::min(1.0, veces(d + j) * mortalidad_.invalidos.q(x + d + j));
-    });
+    return renta(aniosDeVida(x + d),
+                 [&](int j) { return 1 - std::min(1.0, veces(d + j) * mortalidad_.invalidos.q(x + d + j)); });
 }
 
 double Rentas::Tarifa4(int x, TopeHijo tope) const {
@@ -68,21 +67,18 @@ double Rentas::Tarifa5(int x, int n) const {
 }
 
 double Rentas::Tarifa6(int x, int y) const {
-    return renta(kTopeConViuda - y, [&](int j) {
-        return (1 - mortalidad_.vidas.q(x + j)) * (1 - mortalidad_.hijos.q(y + j));
-    });
+    return renta(kTopeConViuda - y,
+                 [&](int j) { return (1 - mortalidad_.vidas.q(x + j)) * (1 - mortalidad_.hijos.q(y + j)); });
 }
 
 double Rentas::Tarifa7(int x, int y) const {
-    return renta(kTopePareja - std::max(x, y), [&](int j) {
-        return (1 - mortalidad_.hijos.q(x + j)) * (1 - mortalidad_.hijos.q(y + j));
-    });
+    return renta(kTopePareja - std::max(x, y),
+                 [&](int j) { return (1 - mortalidad_.hijos.q(x + j)) * (1 - mortalidad_.hijos.q(y + j)); });
 }
 
 double Rentas::Tarifa8(int x, int y) const {
-    return renta(aniosDeVida(std::max(x, y)), [&](int j) {
-        return (1 - mortalidad_.vidas.q(x + j)) * (1 - mortalidad_.vidas.q(y + j));
-    });
+    return renta(aniosDeVida(std::max(x, y)),
+                 [&](int j) { return (1 - mortalidad_.vidas.q(x + j)) * (1 - mortalidad_.vidas.q(y + j)); });
 }
 
 double Rentas::Tarifa9(int x, TopeHijo tope) const {
