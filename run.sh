@@ -8,33 +8,18 @@ destino=$(realpath -m "${1:-$(dirname "$0")/build/release/orvemo}")
 cd "$(dirname "$0")"
 . scripts/paquetes.sh
 
-# The cases that ship, by the calculator that reads them. Their people live in the year of the figures.
+# The people of the cases that ship live in the year of the figures.
 HOY_DE_LOS_EJEMPLOS=2005-07-01
-EJEMPLOS=(
-    "jubilacion      ejemplos/jubila.nom"
-    "incapacidad     ejemplos/invalid.nom"
-    "muerte          ejemplos/muerte.nom"
-    "desempleo       ejemplos/desemp.nom"
-    "it              ejemplos/ILT.nom"
-    "maternidad      ejemplos/Mater.nom"
-    "riesgo          ejemplos/RiesgoEm.nom"
-    "nocontributiva  nocont.nom"
-    "familiar        ejemplos/Familiar.nom"
-    "capital         ejemplos/Capit.nom"
-    "irpf            ejemplos/RIRPF.nom"
-    "nomina          ejemplos/nominas.nom"
-)
 
+# The conclusions of the cases that ship, calculator by calculator.
 calcula_ejemplos() {
-    local calculadora fichero estado=0
-    for ejemplo in "${EJEMPLOS[@]}"; do
-        read -r calculadora fichero <<<"$ejemplo"
-        if [ -f "$destino/$fichero" ]; then
-            printf '\n=== %s: %s\n\n' "$calculadora" "$fichero"
-            "$destino/orvemo-lote" "$calculadora" "$destino/$fichero" --datos "$destino" \
-                --hoy "$HOY_DE_LOS_EJEMPLOS" || estado=1
-        fi
-    done
+    local calculadora ejemplos estado=0
+    while read -r calculadora _ ejemplos; do
+        [ -n "$ejemplos" ] || continue
+        printf '\n=== %s: %s\n\n' "$calculadora" "$ejemplos"
+        "$destino/orvemo-lote" "$calculadora" "$destino/$ejemplos" --datos "$destino" \
+            --hoy "$HOY_DE_LOS_EJEMPLOS" </dev/null || estado=1
+    done < <("$destino/orvemo-lote" --lista)
     return $estado
 }
 

@@ -12,17 +12,11 @@
 
 #include "apoyo/almacen_memoria.h"
 #include "apoyo/mensajes_falsos.h"
-#include "benefits/desempleo/desempleo_registro.h"
-#include "benefits/familiar/familiar_registro.h"
-#include "benefits/it/incapacidad_temporal_registro.h"
-#include "benefits/maternidad/maternidad_registro.h"
-#include "benefits/nocontributiva/nocontributiva_registro.h"
-#include "benefits/riesgo/riesgo_embarazo_registro.h"
 #include "cases/archivo_supuestos.h"
 #include "cases/dialogos.h"
+#include "catalogue/catalogo.h"
 #include "exige.h"
 #include "foundations/values/textos.h"
-#include "pensions/jubilacion/jubilacion_registro.h"
 
 namespace {
 
@@ -32,27 +26,18 @@ using namespace orvemo::pruebas;
 constexpr const char* kNombre = "casos.nom";
 
 /// A record read and written again may lose what is no date; a second time it loses nothing.
-template <typename Registro>
-void porSuDiseno(const auto& diseno, const std::string& bytes) {
-    if (bytes.size() < diseno.longitud()) return;
-    Registro registro;
-    diseno.lee(bytes, registro);
-    const std::string escrito = diseno.escribe(registro);
-    exige(escrito.size() == diseno.longitud(), "a record has its length");
+void porSuDiseno(const RegistroCatalogo& registro, const std::string& bytes) {
+    if (bytes.size() < registro.longitud) return;
+    const std::string escrito = registro.relee(bytes);
+    exige(escrito.size() == registro.longitud, "a record has its length");
     exige(escrito.substr(0, kAnchoCabecera) == bytes.substr(0, kAnchoCabecera), "a head stays as it was");
-    Registro otra;
-    diseno.lee(escrito, otra);
-    exige(diseno.escribe(otra) == escrito, "a record written reads back");
+    exige(registro.relee(escrito) == escrito, "a record written reads back");
 }
 
 void porLosDisenos(const std::string& bytes) {
-    porSuDiseno<jubilacion::RegistroJubilacion>(jubilacion::kDiseno, bytes);
-    porSuDiseno<desempleo::RegistroDesempleo>(desempleo::kDiseno, bytes);
-    porSuDiseno<incapacidad_temporal::RegistroIncapacidad>(incapacidad_temporal::kDiseno, bytes);
-    porSuDiseno<maternidad::RegistroMaternidad>(maternidad::kDiseno, bytes);
-    porSuDiseno<riesgo_embarazo::RegistroRiesgo>(riesgo_embarazo::kDiseno, bytes);
-    porSuDiseno<nocontributiva::RegistroNoContributiva>(nocontributiva::kDiseno, bytes);
-    porSuDiseno<familiar::RegistroFamiliar>(familiar::kDiseno, bytes);
+    for (const EntradaCatalogo& entrada : CalculadorasDelPrograma()) {
+        if (entrada.registro.relee != nullptr) porSuDiseno(entrada.registro, bytes);
+    }
 }
 
 /// The case file as the operations see it, and what they must do to it.

@@ -13,7 +13,8 @@
 #include <functional>
 #include <vector>
 
-#include "shell/calculadoras.h"
+#include "catalogue/catalogo.h"
+#include "shell/pantallas.h"
 #include "shell/programa.h"
 #include "toolkit/aplicacion.h"
 #include "toolkit/impresora_pdf.h"
@@ -158,7 +159,7 @@ int ejecuta(Aplicacion& aplicacion, Mensajes& mensajes, const QStringList& argum
     Entorno entorno{mensajes, reloj, almacen, impresora, rutinas, valores};
     VistaMenu menu{almacen};
     MenuSinPortada vista{menu};
-    Programa programa{entorno, PantallasDisponibles(), vista};
+    Programa programa{entorno, PantallasDelMenu(CalculadorasDelPrograma()), vista};
     programa.Inicia();
     menu.muestra(programa);
     Sesion sesion{menu, programa, argumentos[2], argumentos.value(3)};

@@ -4,9 +4,10 @@
 #include <cstdio>
 #include <exception>
 
+#include "catalogue/catalogo.h"
 #include "foundations/values/almacen.h"
-#include "shell/calculadoras.h"
 #include "shell/config_nom.h"
+#include "shell/pantallas.h"
 
 namespace {
 
@@ -32,7 +33,7 @@ RegistroConfig opcion(int indice, bool activa) {
 }
 
 void escribe(Almacen& almacen) {
-    const Pantallas pantallas = PantallasDisponibles();
+    const Pantallas pantallas = PantallasDelMenu(CalculadorasDelPrograma());
     std::array<RegistroConfig, kRegistrosConfig> registros{titulo()};
     for (int i = 0; i < kOpcionesConfig; ++i) {
         const auto indice = static_cast<std::size_t>(i);

@@ -4,8 +4,9 @@
 #include <filesystem>
 
 #include "arranque/primer_dibujo.h"
+#include "catalogue/catalogo.h"
 #include "foundations/values/almacen.h"
-#include "shell/calculadoras.h"
+#include "shell/pantallas.h"
 #include "shell/programa.h"
 #include "toolkit/aplicacion.h"
 #include "toolkit/impresora_qt.h"
@@ -27,7 +28,7 @@ int main(int argc, char** argv) {
     ValoresPrograma valores;
     Entorno entorno{mensajes, reloj, almacen, impresora, rutinas, valores};
     VistaMenu vista{almacen};
-    Programa programa{entorno, PantallasDisponibles(), vista};
+    Programa programa{entorno, PantallasDelMenu(CalculadorasDelPrograma()), vista};
     programa.Inicia();
     const bench::PrimerDibujo dibujo{vista, bench::avisaYTermina};
     vista.muestra(programa);

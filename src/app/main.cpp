@@ -2,8 +2,9 @@
 #include <filesystem>
 #include <string>
 
+#include "catalogue/catalogo.h"
 #include "foundations/values/almacen.h"
-#include "shell/calculadoras.h"
+#include "shell/pantallas.h"
 #include "shell/programa.h"
 #include "toolkit/aplicacion.h"
 #include "toolkit/impresora_qt.h"
@@ -40,7 +41,7 @@ int ejecuta(orvemo::Aplicacion& aplicacion, orvemo::Mensajes& mensajes) {
     ValoresPrograma valores;
     Entorno entorno{mensajes, reloj, almacen, impresora, rutinas, valores};
     VistaMenu vista{almacen};
-    Programa programa{entorno, PantallasDisponibles(), vista};
+    Programa programa{entorno, PantallasDelMenu(CalculadorasDelPrograma()), vista};
     programa.Inicia();
     vista.muestra(programa);
     return aplicacion.exec();

@@ -1,14 +1,15 @@
 #include "lote/lote.h"
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
 #include <system_error>
 
 #include "cases/archivo_supuestos.h"
+#include "foundations/frame/asistente.h"
 #include "foundations/values/fallos.h"
 #include "lote/almacen_lote.h"
-#include "lote/calculadoras_lote.h"
 #include "lote/salida.h"
 #include "toolkit/impresora_pdf.h"
 
@@ -37,21 +38,14 @@ class RelojLote final : public Reloj {
     Fecha hoy_;
 };
 
-/// Presses `Siguiente` up to the conclusions; stops where a panel doesn't let pass.
-void avanzaHastaConclusiones(Calculadora& calculadora) {
-    while (calculadora.PantallaActual() != calculadora.ultimaPantalla()) {
-        const int antes = calculadora.PantallaActual();
-        if (!calculadora.pulsa(calculadora.Siguiente) || calculadora.PantallaActual() == antes) return;
-    }
-}
-
 /// One calculator just opened, with a world of its own around it.
 class Apertura {
   public:
-    Apertura(const Abridor& abre, Almacen& almacen, const Reloj& reloj, std::filesystem::path pdf)
+    Apertura(const RegistroCatalogo& registro, Almacen& almacen, const Reloj& reloj,
+             std::filesystem::path pdf)
         : impresora_{almacen, std::move(pdf)},
           entorno_{mensajes_, reloj, almacen, impresora_, rutinas_, valores_},
-          calculadora_{abre(entorno_)} {}
+          calculadora_{registro.abre(entorno_)} {}
 
     [[nodiscard]] Calculadora& calculadora() { return *calculadora_; }
     [[nodiscard]] const std::string& error() const { return mensajes_.error; }
@@ -73,16 +67,10 @@ class Apertura {
 class Lote {
   public:
     /// Throws Fallo for a case file that can't be read, or a data file of the calculator that is amiss.
-    Lote(const Opciones& opciones, const std::filesystem::path& datos, Abridor abre)
-        : opciones_{opciones},
-          almacen_{datos, opciones.fichero},
-          reloj_{opciones.hoy},
-          abre_{std::move(abre)} {
-        Apertura apertura{abre_, almacen_, reloj_, {}};
-        Calculadora& calculadora = apertura.calculadora();
-        longitud_ = calculadora.longitudRegistro();
-        almacen_.ponNombreDelFichero(calculadora.fichero());
-        calculadora.Inicia();
+    Lote(const Opciones& opciones, const std::filesystem::path& datos, const RegistroCatalogo& registro)
+        : opciones_{opciones}, almacen_{datos, opciones.fichero}, reloj_{opciones.hoy}, registro_{registro} {
+        almacen_.ponNombreDelFichero(std::string{registro.fichero});
+        Apertura{registro_, almacen_, reloj_, {}}.calculadora().Inicia();
     }
 
     [[nodiscard]] int cuenta() { return archivo().cuenta(); }
@@ -94,25 +82,29 @@ class Lote {
         Resultado resultado;
         resultado.registro = entrada.registro;
         resultado.supuesto = entrada.nombre;
-        Apertura apertura{abre_, almacen_, reloj_, rutaPdf(entrada.registro)};
+        Apertura apertura{registro_, almacen_, reloj_, rutaPdf(entrada.registro)};
         Calculadora& calculadora = apertura.calculadora();
         try {
             calculadora.Inicia();
             calculadora.DatosCargaRegistro(entrada.registro);
-            avanzaHastaConclusiones(calculadora);
+            calculadora.concluye();
             if (opciones_.pdf && apertura.error().empty()) apertura.imprime(almacen_);
             resultado.error = apertura.error();
         } catch (const Fallo& fallo) {
             resultado.error = fallo.what();
         }
         resultado.nombre = calculadora.campoNombre().texto();
-        resultado.derecho = calculadora.ConDerecho();
-        resultado.conclusion = calculadora.textoConclusion();
+        if (const auto* asistente = dynamic_cast<const Asistente*>(&calculadora)) {
+            resultado.derecho = asistente->ConDerecho();
+            resultado.conclusion = asistente->textoConclusion();
+        }
         return resultado;
     }
 
   private:
-    [[nodiscard]] ArchivoSupuestos archivo() { return {almacen_, opciones_.fichero.string(), longitud_}; }
+    [[nodiscard]] ArchivoSupuestos archivo() {
+        return {almacen_, opciones_.fichero.string(), registro_.longitud};
+    }
 
     [[nodiscard]] std::filesystem::path rutaPdf(int registro) const {
         if (!opciones_.pdf) return {};
@@ -122,8 +114,7 @@ class Lote {
     const Opciones& opciones_;
     AlmacenLote almacen_;
     RelojLote reloj_;
-    Abridor abre_;
-    std::size_t longitud_ = 0;
+    const RegistroCatalogo& registro_;
 };
 
 void exigeDirectorio(const std::filesystem::path& ruta) {
@@ -141,13 +132,13 @@ void compruebaRutas(const Opciones& opciones) {
     if (opciones.pdf) exigeDirectorio(*opciones.pdf);
 }
 
-Abridor abridorPedido(const std::string& nombre) {
-    Abridor abre = abridorDe(nombre);
-    if (!abre) {
+const RegistroCatalogo& registroPedido(Calculadoras catalogo, const std::string& nombre) {
+    const auto entrada = std::ranges::find(catalogo, nombre, &EntradaCatalogo::clave);
+    if (entrada == catalogo.end()) {
         throw ArgumentoInservible{"No existe la calculadora «" + nombre +
-                                  "». Disponibles: " + nombresDisponibles() + "."};
+                                  "». Disponibles: " + nombresDisponibles(catalogo) + "."};
     }
-    return abre;
+    return entrada->registro;
 }
 
 /// The records asked for: one, that must be in use, or all.
@@ -178,11 +169,12 @@ int calculaTodo(const Opciones& opciones, Lote& lote, std::ostream& salida) {
 
 }  // namespace
 
-int ejecuta(const Opciones& opciones, const std::filesystem::path& datosPorDefecto, std::ostream& salida,
-            std::ostream& errores) {
+int ejecuta(const Opciones& opciones, Calculadoras catalogo, const std::filesystem::path& datosPorDefecto,
+            std::ostream& salida, std::ostream& errores) {
     try {
         compruebaRutas(opciones);
-        Lote lote{opciones, opciones.datos.value_or(datosPorDefecto), abridorPedido(opciones.calculadora)};
+        Lote lote{opciones, opciones.datos.value_or(datosPorDefecto),
+                  registroPedido(catalogo, opciones.calculadora)};
         return calculaTodo(opciones, lote, salida);
     } catch (const ArgumentoInservible& error) {
         errores << error.what() << '\n';

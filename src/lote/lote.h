@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <ostream>
 
+#include "foundations/frame/catalogo.h"
 #include "lote/opciones_lote.h"
 
 namespace orvemo::lote {
@@ -16,7 +17,7 @@ inline constexpr int kInservible = 2;
 
 /// Computes the cases of a file one by one, each as if the calculator had just been opened, and writes what
 /// stands on its conclusions. Results stream. Gives the exit status; what can't be used is told on `errores`.
-int ejecuta(const Opciones& opciones, const std::filesystem::path& datosPorDefecto, std::ostream& salida,
-            std::ostream& errores);
+int ejecuta(const Opciones& opciones, Calculadoras catalogo, const std::filesystem::path& datosPorDefecto,
+            std::ostream& salida, std::ostream& errores);
 
 }  // namespace orvemo::lote

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/catalogo.h"
 #include "lote/lote.h"
 #include "lote/opciones_lote.h"
 
@@ -36,8 +37,10 @@ int main(int argc, char** argv) {
     if (castellano.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&castellano);
     }
+    const orvemo::Calculadoras catalogo = orvemo::CalculadorasDelPrograma();
     try {
-        return ejecuta(leeOpciones(argumentos), directorioDelEjecutable(), std::cout, std::cerr);
+        return ejecuta(leeOpciones(argumentos, catalogo), catalogo, directorioDelEjecutable(), std::cout,
+                       std::cerr);
     } catch (const PideAyuda& ayuda) {
         std::cout << ayuda.what();
         return kTodoCalculado;

@@ -5,8 +5,6 @@
 #include <QDate>
 #include <QStringList>
 
-#include "lote/calculadoras_lote.h"
-
 namespace orvemo::lote {
 
 namespace {
@@ -16,6 +14,8 @@ const QCommandLineOption kHoy{"hoy", "Fecha de hoy, AAAA-MM-DD, en lugar de la d
 const QCommandLineOption kDatos{"datos", "Directorio de los ficheros de datos del programa.", "DIR"};
 const QCommandLineOption kPdf{"pdf", "Imprime cada informe en DIR/CALCULADORA-N.pdf.", "DIR"};
 const QCommandLineOption kJson{"json", "Un objeto JSON por línea en lugar de texto."};
+const QCommandLineOption kLista{
+    "lista", "Muestra las calculadoras, una por línea, con su fichero de supuestos y el de sus ejemplos."};
 const QCommandLineOption kAyuda{{"h", "ayuda"}, "Muestra esta ayuda."};
 
 // The parser sees every byte of the command line as one character: a file name needn't be UTF-8.
@@ -47,24 +47,43 @@ std::string motivo(const QCommandLineParser& analizador) {
     return "No existe la opción «" + comoSeDio(desconocidas.front()) + "» (véase --ayuda).";
 }
 
-void describe(QCommandLineParser& analizador) {
+/// A calculator a line, for scripts: name, case file and file of examples, those that it has.
+std::string listaDe(Calculadoras catalogo) {
+    std::string lista;
+    for (const EntradaCatalogo& entrada : catalogo) {
+        lista.append(entrada.clave).append(" ").append(entrada.registro.fichero);
+        lista.append(entrada.ejemplos.empty() ? "" : " ").append(entrada.ejemplos).append("\n");
+    }
+    return lista;
+}
+
+void describe(QCommandLineParser& analizador, Calculadoras catalogo) {
     analizador.setApplicationDescription(
         "Calcula por lotes los supuestos de un fichero y da sus conclusiones.");
     analizador.addPositionalArgument("CALCULADORA",
-                                     QString::fromStdString("Una de: " + nombresDisponibles()));
+                                     QString::fromStdString("Una de: " + nombresDisponibles(catalogo)));
     analizador.addPositionalArgument("FICHERO", "Fichero de supuestos (*.nom).");
-    analizador.addOptions({kRegistro, kHoy, kDatos, kPdf, kJson, kAyuda});
+    analizador.addOptions({kRegistro, kHoy, kDatos, kPdf, kJson, kLista, kAyuda});
 }
 
 }  // namespace
 
-Opciones leeOpciones(const std::vector<std::string>& argumentos) {
+std::string nombresDisponibles(Calculadoras catalogo) {
+    std::string nombres;
+    for (const EntradaCatalogo& entrada : catalogo) {
+        nombres.append(nombres.empty() ? "" : ", ").append(entrada.clave);
+    }
+    return nombres;
+}
+
+Opciones leeOpciones(const std::vector<std::string>& argumentos, Calculadoras catalogo) {
     QCommandLineParser analizador;
-    describe(analizador);
+    describe(analizador, catalogo);
     QStringList lista;
     for (const std::string& argumento : argumentos) lista << comoLlega(argumento);
     if (!analizador.parse(lista)) throw ArgumentoInservible{motivo(analizador)};
     if (analizador.isSet(kAyuda)) throw PideAyuda{analizador.helpText().toStdString()};
+    if (analizador.isSet(kLista)) throw PideAyuda{listaDe(catalogo)};
     const QStringList sueltos = analizador.positionalArguments();
     if (sueltos.size() != 2) throw ArgumentoInservible{"Se esperan CALCULADORA y FICHERO (véase --ayuda)."};
 

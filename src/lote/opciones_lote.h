@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "foundations/frame/catalogo.h"
 #include "foundations/values/fechas.h"
 
 namespace orvemo::lote {
@@ -27,13 +28,16 @@ class ArgumentoInservible : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The help, and nothing else, was asked for; `what()` is its text.
+/// The help or the list of calculators, and nothing else, was asked for; `what()` is its text.
 class PideAyuda : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
+/// The names of the calculators, with commas between.
+[[nodiscard]] std::string nombresDisponibles(Calculadoras catalogo);
+
 /// Reads the command line, the program's name first. Throws ArgumentoInservible, PideAyuda.
-[[nodiscard]] Opciones leeOpciones(const std::vector<std::string>& argumentos);
+[[nodiscard]] Opciones leeOpciones(const std::vector<std::string>& argumentos, Calculadoras catalogo);
 
 }  // namespace orvemo::lote

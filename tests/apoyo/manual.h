@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 namespace orvemo::pruebas {
 
@@ -29,7 +29,7 @@ inline std::string_view sinDosPuntos(std::string_view rotulo) {
 }
 
 /// How the manual names a field.
-inline std::string etiquetaDe(Calculadora& frm, const Campo& campo) {
+inline std::string etiquetaDe(Asistente& frm, const Campo& campo) {
     const Grupo* grupo = campo.def().grupo;
     if (grupo == nullptr || grupo->def().encabezados.empty())
         return std::string{sinDosPuntos(campo.rotulo())};
@@ -44,7 +44,7 @@ inline std::string etiquetaDe(Calculadora& frm, const Campo& campo) {
 }
 
 /// The field of the panel on view that bears the label; null without one.
-inline Campo* busca(Calculadora& frm, const std::string& rotulo) {
+inline Campo* busca(Asistente& frm, const std::string& rotulo) {
     const auto esEse = [&](const Campo& campo) {
         return frm.enPantalla(campo) && etiquetaDe(frm, campo) == rotulo;
     };
@@ -95,7 +95,7 @@ inline std::vector<CasoDelManual> casosDelManual(const std::string& ruta, std::s
 }
 
 /// Writes on the field that bears the label, as the user would, going on to the panel where it stands.
-inline void rellenaComoElManual(Calculadora& frm, const std::string& rotulo, const std::string& valor) {
+inline void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const std::string& valor) {
     Campo* campo = manual::busca(frm, rotulo);
     while (campo == nullptr && frm.PantallaActual() + 1 < frm.ultimaPantalla()) {
         ASSERT_TRUE(frm.pulsa(frm.Siguiente)) << rotulo;
@@ -115,7 +115,7 @@ inline void rellenaComoElManual(Calculadora& frm, const std::string& rotulo, con
 }
 
 /// The conclusions of the case on screen, its line ends as "\n" and none missing at the end.
-inline std::string conclusionDelPrograma(Calculadora& frm) {
+inline std::string conclusionDelPrograma(Asistente& frm) {
     for (int i = 0; i < frm.numPantallas() && frm.PantallaActual() != frm.ultimaPantalla(); ++i) {
         EXPECT_TRUE(frm.pulsa(frm.Siguiente));
     }

@@ -14,7 +14,7 @@
 
 #include "apoyo/entorno_falso.h"
 #include "apoyo/vista_falsa.h"
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 namespace orvemo::pruebas {
 

@@ -12,6 +12,7 @@
 
 #include "benefits/desempleo/desempleo_registro.h"
 #include "cases/archivo_supuestos.h"
+#include "catalogue/catalogo.h"
 #include "foundations/values/almacen.h"
 
 namespace orvemo::lote {
@@ -43,7 +44,7 @@ class LoteTest : public testing::Test {
     }
     ~LoteTest() override { fs::remove_all(lugar); }
 
-    int ejecutaLote() { return ejecuta(opciones, lugar, salida, errores); }
+    int ejecutaLote() { return ejecuta(opciones, CalculadorasDelPrograma(), lugar, salida, errores); }
 
     fs::path lugar = fs::temp_directory_path() / ("orvemo-lote-" + std::to_string(::getpid()));
     Opciones opciones{.calculadora = "desempleo", .fichero = lugar / "paro.nom"};
@@ -107,7 +108,7 @@ TEST_F(LoteTest, WhatCannotBeUsedIsToldAndNothingIsMade) {
         Opciones estropeadas = opciones;
         caso.estropea(estropeadas, lugar);
         errores.str({});
-        EXPECT_EQ(ejecuta(estropeadas, lugar, salida, errores), kInservible);
+        EXPECT_EQ(ejecuta(estropeadas, CalculadorasDelPrograma(), lugar, salida, errores), kInservible);
         EXPECT_FALSE(errores.str().empty());
     }
     EXPECT_TRUE(salida.str().empty());

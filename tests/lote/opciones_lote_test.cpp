@@ -5,12 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/catalogo.h"
+
 namespace orvemo::lote {
 namespace {
 
 Opciones lee(std::vector<std::string> argumentos) {
     argumentos.insert(argumentos.begin(), "orvemo-lote");
-    return leeOpciones(argumentos);
+    return leeOpciones(argumentos, CalculadorasDelPrograma());
 }
 
 TEST(OpcionesLote, ReadsAWholeCommandLine) {
@@ -50,6 +52,16 @@ TEST(OpcionesLote, AFileNameKeepsItsBytesUtf8OrNot) {
 
 TEST(OpcionesLote, HelpIsNoError) {
     EXPECT_THROW(lee({"--ayuda"}), PideAyuda);
+}
+
+TEST(OpcionesLote, TheListIsForScripts) {
+    std::string lista;
+    try {
+        lee({"--lista"});
+    } catch (const PideAyuda& texto) {
+        lista = texto.what();
+    }
+    EXPECT_NE(lista.find("\nit ILT.nom ejemplos/ILT.nom\n"), std::string::npos) << lista;
 }
 
 }  // namespace

@@ -2,10 +2,11 @@
 
 #include <filesystem>
 
+#include "catalogue/catalogo.h"
 #include "foundations/values/textos.h"
 #include "shell/apoyo_shell.h"
-#include "shell/calculadoras.h"
 #include "shell/fondo_frm.h"
+#include "shell/pantallas.h"
 
 namespace orvemo::pruebas {
 namespace {
@@ -28,7 +29,7 @@ class DatosDeFabrica : public testing::Test {
 };
 
 TEST_F(DatosDeFabrica, ElMenuTieneLasOpcionesQueSeAbrenYNingunaMas) {
-    const Pantallas pantallas = PantallasDisponibles();
+    const Pantallas pantallas = PantallasDelMenu(CalculadorasDelPrograma());
     Programa programa{mundo.entorno, pantallas, vista};
     programa.Inicia();
 

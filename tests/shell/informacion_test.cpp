@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
 #include "shell/apoyo_shell.h"
-#include "shell/calculadoras.h"
 #include "shell/fondo_frm.h"
+#include "shell/pantallas.h"
 #include "shell/presenta_frm.h"
 
 namespace orvemo::pruebas {
@@ -152,7 +152,7 @@ TEST(Informacion, LoQueImpideAbrirlasSeDiceDesdeElMenu) {
             mundo.almacen[caso.fichero] = caso.contenido;
         }
         VistaProgramaFalsa vista;
-        Programa programa{mundo.entorno, PantallasDisponibles(), vista};
+        Programa programa{mundo.entorno, PantallasDelMenu({}), vista};
         programa.Opcion(caso.opcion);
         EXPECT_THAT(mundo.mensajes.dichos, ElementsAre(kNoSePuede + caso.dicho + "."));
         EXPECT_THAT(vista.pedidos, IsEmpty()) << caso.dicho;

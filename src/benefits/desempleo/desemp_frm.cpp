@@ -9,11 +9,11 @@
 namespace orvemo {
 
 DesempFrm::DesempFrm(Entorno& entorno)
-    : CalculadoraDe{entorno,
-                    {.titulo = "PRESTACIONES DE DESEMPLEO",
-                     .caption = "Prestaciones de desempleo",
-                     .fichero = "desemp.nom",
-                     .subtitulos = {"Datos del solicitante", "CONCLUSIONES SOBRE PRESTACION DE DESEMPLEO"}}},
+    : AsistenteDe{entorno,
+                  {.titulo = "PRESTACIONES DE DESEMPLEO",
+                   .caption = "Prestaciones de desempleo",
+                   .fichero = "desemp.nom",
+                   .subtitulos = {"Datos del solicitante", "CONCLUSIONES SOBRE PRESTACION DE DESEMPLEO"}}},
       Nombre{nuevo({.nombre = "Nombre", .rotulo = "Nombre completo:", .largo = 50})},
       Edad{nuevo(entero("Edad", "Edad del solicitante:", rango("1", "99")))},
       Fecha{nuevo(fechaElegida("Fecha", "Fecha de solicitud:"))},

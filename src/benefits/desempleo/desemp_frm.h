@@ -1,12 +1,12 @@
 #pragma once
 
 #include "benefits/desempleo/desempleo_registro.h"
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 namespace orvemo {
 
 /// "PRESTACIONES DE DESEMPLEO": the applicant's data and the conclusions.
-class DesempFrm final : public CalculadoraDe<desempleo::RegistroDesempleo, desempleo::kDiseno> {
+class DesempFrm final : public AsistenteDe<desempleo::RegistroDesempleo, desempleo::kDiseno> {
   public:
     explicit DesempFrm(Entorno& entorno);
 

@@ -15,12 +15,12 @@ constexpr int kIndiceNacimiento = 1;
 }  // namespace
 
 FamiliarFrm::FamiliarFrm(Entorno& entorno)
-    : CalculadoraDe{entorno,
-                    {.titulo = "PRESTACIONES FAMILIARES NO CONTRIBUTIVAS",
-                     .caption = "Prestaciones familiares no contributivas",
-                     .fichero = "Familiar.nom",
-                     .subtitulos = {"Datos del solicitante",
-                                    "CONCLUSIONES SOBRE PRESTACION POR HIJO A CARGO"}}},
+    : AsistenteDe{entorno,
+                  {.titulo = "PRESTACIONES FAMILIARES NO CONTRIBUTIVAS",
+                   .caption = "Prestaciones familiares no contributivas",
+                   .fichero = "Familiar.nom",
+                   .subtitulos = {"Datos del solicitante",
+                                  "CONCLUSIONES SOBRE PRESTACION POR HIJO A CARGO"}}},
       HijosACargo{nuevoGrupo({.nombre = "Supuestos0"})},
       Nacimiento{nuevoGrupo({.nombre = "Supuestos1", .visible = false})},
       Nombre{nuevo(texto("Nombre", "Nombre completo:"))},
@@ -65,11 +65,11 @@ std::string FamiliarFrm::subtituloDe(int pantalla) const {
     if (pantalla == ultimaPantalla() && esNacimiento()) {
         return "CONCLUSIONES SOBRE PRESTACION POR NACIMIENTO DE HIJO(S)";
     }
-    return CalculadoraDe::subtituloDe(pantalla);
+    return AsistenteDe::subtituloDe(pantalla);
 }
 
 void FamiliarFrm::LimpiaDatos() {
-    CalculadoraDe::LimpiaDatos();
+    AsistenteDe::LimpiaDatos();
     ajustaSupuestos();
 }
 

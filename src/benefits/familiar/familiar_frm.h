@@ -1,12 +1,12 @@
 #pragma once
 
 #include "benefits/familiar/familiar_registro.h"
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 namespace orvemo {
 
 /// "PRESTACIONES FAMILIARES NO CONTRIBUTIVAS": dependent children or a birth, as the list at the top tells.
-class FamiliarFrm final : public CalculadoraDe<familiar::RegistroFamiliar, familiar::kDiseno> {
+class FamiliarFrm final : public AsistenteDe<familiar::RegistroFamiliar, familiar::kDiseno> {
   public:
     explicit FamiliarFrm(Entorno& entorno);
 

@@ -44,12 +44,12 @@ bool esRegimenEspecial(int s) {
 }  // namespace
 
 ILTFrm::ILTFrm(Entorno& entorno)
-    : CalculadoraDe{entorno,
-                    {.titulo = "INCAPACIDAD TEMPORAL",
-                     .caption = "Incapacidad Temporal",
-                     .fichero = "ILT.nom",
-                     .subtitulos = {"Datos del solicitante",
-                                    "CONCLUSIONES SOBRE INDEMNIZACION POR INCAPACIDAD TEMPORAL"}}},
+    : AsistenteDe{entorno,
+                  {.titulo = "INCAPACIDAD TEMPORAL",
+                   .caption = "Incapacidad Temporal",
+                   .fichero = "ILT.nom",
+                   .subtitulos = {"Datos del solicitante",
+                                  "CONCLUSIONES SOBRE INDEMNIZACION POR INCAPACIDAD TEMPORAL"}}},
       Sup1{nuevoGrupo(
           {.nombre = "Sup1", .titulo = "Datos adicionales: Si la baja es en el mes de alta en la empresa"})},
       Sup2{nuevoGrupo({.nombre = "Sup2", .titulo = "Datos adicionales: Días de baja en meses anteriores"})},
@@ -85,12 +85,12 @@ ILTFrm::ILTFrm(Entorno& entorno)
 
 void ILTFrm::Inicia() {
     TBaja.ponOpciones(kCausasAlAbrir);
-    Calculadora::Inicia();
+    AsistenteDe::Inicia();
 }
 
 void ILTFrm::LimpiaDatos() {
     const int antes = Situacion.indice();
-    Calculadora::LimpiaDatos();
+    AsistenteDe::LimpiaDatos();
     if (Situacion.indice() != antes) llenaTBaja();
     AjustaPantalla();
 }

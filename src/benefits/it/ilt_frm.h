@@ -1,14 +1,14 @@
 #pragma once
 
 #include "benefits/it/incapacidad_temporal_registro.h"
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 namespace orvemo {
 
 /// "INCAPACIDAD TEMPORAL": the applicant's data, with what scheme, cause and dates ask for, and the
 /// conclusions.
 class ILTFrm final
-    : public CalculadoraDe<incapacidad_temporal::RegistroIncapacidad, incapacidad_temporal::kDiseno> {
+    : public AsistenteDe<incapacidad_temporal::RegistroIncapacidad, incapacidad_temporal::kDiseno> {
   public:
     explicit ILTFrm(Entorno& entorno);
 

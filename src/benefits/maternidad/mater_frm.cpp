@@ -22,12 +22,12 @@ constexpr const char* kPatronFechaInforme = "dd-mmm-yyyy";
 }  // namespace
 
 MaterFrm::MaterFrm(Entorno& entorno)
-    : CalculadoraDe{entorno,
-                    {.titulo = "PRESTACION POR MATERNIDAD",
-                     .caption = "Prestación por maternidad",
-                     .fichero = "Mater.nom",
-                     .subtitulos = {"Datos del solicitante",
-                                    "CONCLUSIONES SOBRE INDEMNIZACION POR MATERNIDAD"}}},
+    : AsistenteDe{entorno,
+                  {.titulo = "PRESTACION POR MATERNIDAD",
+                   .caption = "Prestación por maternidad",
+                   .fichero = "Mater.nom",
+                   .subtitulos = {"Datos del solicitante",
+                                  "CONCLUSIONES SOBRE INDEMNIZACION POR MATERNIDAD"}}},
       tp{nuevoGrupo({.nombre = "tp", .visible = false})},
       jtp{nuevoGrupo({.nombre = "jtp", .visible = false})},
       Nombre{nuevo(texto("Nombre", "Nombre completo:"))},
@@ -52,7 +52,7 @@ MaterFrm::MaterFrm(Entorno& entorno)
 // --- Reactions ---
 
 void MaterFrm::LimpiaDatos() {
-    Calculadora::LimpiaDatos();
+    AsistenteDe::LimpiaDatos();
     for (Campo* fecha : {&fAlta, &f1, &f2}) fecha->ponTexto(FormatoFecha(hoy(), kPatronFecha));
     AjustaRegimen();
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "benefits/maternidad/maternidad_registro.h"
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 namespace orvemo {
 
 /// "PRESTACION POR MATERNIDAD": the worker's data, with what her scheme asks for, and the conclusions.
-class MaterFrm final : public CalculadoraDe<maternidad::RegistroMaternidad, maternidad::kDiseno> {
+class MaterFrm final : public AsistenteDe<maternidad::RegistroMaternidad, maternidad::kDiseno> {
   public:
     explicit MaterFrm(Entorno& entorno);
 

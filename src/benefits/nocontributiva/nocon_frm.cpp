@@ -15,13 +15,12 @@ constexpr int kEdadDeJubilacion = 65;
 }  // namespace
 
 NoConFrm::NoConFrm(Entorno& entorno)
-    : CalculadoraDe{entorno,
-                    {.titulo = "JUBILACIÓN E INVALIDEZ NO CONTRIBUTIVAS",
-                     .caption = "Jubilación e invalidez no contributivas",
-                     .fichero = "nocont.nom",
-                     .primerLibre = 2,
-                     .subtitulos = {"Datos del solicitante",
-                                    "CONCLUSIONES SOBRE LA PENSIÓN NO CONTRIBUTIVA"}}},
+    : AsistenteDe{entorno,
+                  {.titulo = "JUBILACIÓN E INVALIDEZ NO CONTRIBUTIVAS",
+                   .caption = "Jubilación e invalidez no contributivas",
+                   .fichero = "nocont.nom",
+                   .primerLibre = 2,
+                   .subtitulos = {"Datos del solicitante", "CONCLUSIONES SOBRE LA PENSIÓN NO CONTRIBUTIVA"}}},
       Nombre{nuevo(texto("Nombre", "Nombre completo:"))},
       FechaNac{nuevo(fechaElegida("FechaNac", "Fecha de nacimiento:"))},
       Estancia{nuevo(entero("Estancia", "Años de estancia en España (desde los 16 años):", rango("0", "99"),
@@ -43,7 +42,7 @@ NoConFrm::NoConFrm(Entorno& entorno)
 }
 
 void NoConFrm::LimpiaDatos() {
-    CalculadoraDe::LimpiaDatos();
+    AsistenteDe::LimpiaDatos();
     FechaNac.ponTexto(FormatoFecha(SumaFecha(Intervalo::Anio, -kEdadDeJubilacion, hoy()), "dd-mm-yyyy"));
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "benefits/nocontributiva/nocontributiva_registro.h"
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 namespace orvemo {
 
 /// "JUBILACIÓN E INVALIDEZ NO CONTRIBUTIVAS".
-class NoConFrm final : public CalculadoraDe<nocontributiva::RegistroNoContributiva, nocontributiva::kDiseno> {
+class NoConFrm final : public AsistenteDe<nocontributiva::RegistroNoContributiva, nocontributiva::kDiseno> {
   public:
     explicit NoConFrm(Entorno& entorno);
 

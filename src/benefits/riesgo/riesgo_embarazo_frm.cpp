@@ -23,12 +23,12 @@ constexpr const char* kPatronFechaInforme = "dd-mmm-yyyy";
 }  // namespace
 
 RiesgoEmbarazo::RiesgoEmbarazo(Entorno& entorno)
-    : CalculadoraDe{entorno,
-                    {.titulo = "RIESGO DURANTE EL EMBARAZO",
-                     .caption = "Riesgo durante el embarazo",
-                     .fichero = "RiesgoEm.nom",
-                     .subtitulos = {"Datos del solicitante",
-                                    "CONCLUSIONES SOBRE PRESTACIÓN POR RIESGO DURANTE EMBARAZO"}}},
+    : AsistenteDe{entorno,
+                  {.titulo = "RIESGO DURANTE EL EMBARAZO",
+                   .caption = "Riesgo durante el embarazo",
+                   .fichero = "RiesgoEm.nom",
+                   .subtitulos = {"Datos del solicitante",
+                                  "CONCLUSIONES SOBRE PRESTACIÓN POR RIESGO DURANTE EMBARAZO"}}},
       Sup1{nuevoGrupo(
           {.nombre = "Sup1", .titulo = "Datos adicionales: Si la baja es en el mes de alta en la empresa"})},
       Sup3{nuevoGrupo({.nombre = "Sup3", .titulo = "Datos adicionales: Contratos a Tiempo Parcial"})},
@@ -51,7 +51,7 @@ RiesgoEmbarazo::RiesgoEmbarazo(Entorno& entorno)
 // --- Reactions ---
 
 void RiesgoEmbarazo::LimpiaDatos() {
-    Calculadora::LimpiaDatos();
+    AsistenteDe::LimpiaDatos();
     for (Campo* fecha : {&fAlta, &f1, &f2}) fecha->ponTexto(FormatoFecha(hoy(), kPatronFecha));
     AjustaRegimen();
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "benefits/riesgo/riesgo_embarazo_registro.h"
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 namespace orvemo {
 
 /// "RIESGO DURANTE EL EMBARAZO": the worker's data, with what scheme and dates ask for, and the conclusions.
-class RiesgoEmbarazo final : public CalculadoraDe<riesgo_embarazo::RegistroRiesgo, riesgo_embarazo::kDiseno> {
+class RiesgoEmbarazo final : public AsistenteDe<riesgo_embarazo::RegistroRiesgo, riesgo_embarazo::kDiseno> {
   public:
     explicit RiesgoEmbarazo(Entorno& entorno);
 

@@ -8,65 +8,35 @@ namespace orvemo {
 
 namespace {
 
-DefCampo botonDeBarra(std::string nombre, std::string ayuda) {
-    return {
-        .nombre = std::move(nombre), .clase = Clase::Boton, .pantalla = kBarra, .ayuda = std::move(ayuda)};
-}
-
-/// A button that throws the case away holds nobody in a field whose value goes with it.
-DefCampo botonQueDescarta(std::string nombre, std::string ayuda) {
-    DefCampo def = botonDeBarra(std::move(nombre), std::move(ayuda));
-    def.sinComprobacion = true;
-    return def;
-}
-
 bool tieneDefecto(const Campo& campo) {
     const Clase clase = campo.def().clase;
     return campo.pantalla() >= 0 && clase != Clase::TextoLargo && clase != Clase::Etiqueta &&
            clase != Clase::Veredicto && clase != Clase::Boton && clase != Clase::Imagen;
 }
 
-int ultimaDe(const DefCalculadora& def) {
-    return static_cast<int>(def.subtitulos.size()) - 1;
-}
-
-DefCampo conAccion(DefCampo def, Reaccion accion) {
-    def.alPulsar = std::move(accion);
-    return def;
-}
-
 }  // namespace
 
 Calculadora::Calculadora(Entorno& entorno, DefCalculadora def)
     : Formulario{entorno},
-      BotonNuevo{nuevo(
-          conAccion(botonQueDescarta("BotonNuevo", "Nuevo supuesto"), [this](Campo&) { nuevoCaso(); }))},
-      BotonCarga{
-          nuevo(conAccion(botonDeBarra("BotonCarga", "Cargar supuesto"), [this](Campo&) { CargaCaso(); }))},
-      BotonGraba{
-          nuevo(conAccion(botonDeBarra("BotonGraba", "Grabar supuesto"), [this](Campo&) { GrabaCaso(); }))},
-      BotonPrint{nuevo(conAccion(botonDeBarra("BotonPrint", "Imprimir"), [this](Campo&) { imprime(); }))},
-      BotonExit{nuevo(conAccion(botonQueDescarta("BotonExit", "Volver al menú principal"),
-                                [this](Campo&) { oculta(); }))},
-      Anterior{nuevo({.nombre = "Anterior",
-                      .rotulo = "(Pantalla Anterior...)",
-                      .clase = Clase::Boton,
-                      .pantalla = kPie,
-                      .alPulsar = [this](Campo&) { MuestraPantalla(pantallaAnterior(PantallaActual())); },
-                      .visible = false,
-                      .ayuda = "Mostrar pantalla anterior"})},
-      Siguiente{nuevo({.nombre = "Siguiente",
-                       .rotulo = "(Continuación...)",
-                       .clase = Clase::Boton,
-                       .pantalla = kPie,
-                       .alPulsar = [this](Campo&) { avanza(); },
-                       .ayuda = "Mostrar pantalla siguiente"})},
-      Conclusion{nuevo({.nombre = "Conclusion", .clase = Clase::TextoLargo, .pantalla = ultimaDe(def)})},
-      Ok{nuevo({.nombre = "Ok", .clase = Clase::Veredicto, .pantalla = ultimaDe(def), .visible = false})},
-      Mal{nuevo({.nombre = "Mal", .clase = Clase::Veredicto, .pantalla = ultimaDe(def), .visible = false})},
-      def_{std::move(def)} {
+      def_{std::move(def)},
+      BotonNuevo{nuevoBoton("BotonNuevo", "Nuevo supuesto", &Calculadora::nuevoCaso, true)},
+      BotonCarga{nuevoBoton("BotonCarga", "Cargar supuesto", &Calculadora::CargaCaso)},
+      BotonGraba{nuevoBoton("BotonGraba", "Grabar supuesto", &Calculadora::GrabaCaso)},
+      BotonPrint{nuevoBoton("BotonPrint", "Imprimir", &Calculadora::alImprimir)},
+      BotonExit{nuevoBoton("BotonExit", "Volver al menú principal", &Calculadora::vuelveAlMenu, true)} {
     ponTitulos(def_.titulo, def_.caption);
-    ponNumPantallas(ultimaDe(def_) + 1);
+    ponNumPantallas(static_cast<int>(def_.subtitulos.size()));
+}
+
+/// A button that throws the case away holds nobody in a field whose value goes with it.
+Campo& Calculadora::nuevoBoton(const std::string& nombre, std::string ayuda, void (Calculadora::*accion)(),
+                               bool descarta) {
+    return nuevo({.nombre = def_.prefijoBarra + nombre,
+                  .clase = Clase::Boton,
+                  .pantalla = kBarra,
+                  .alPulsar = [this, accion](Campo&) { (this->*accion)(); },
+                  .ayuda = std::move(ayuda),
+                  .sinComprobacion = descarta});
 }
 
 // --- Set-up and panels
@@ -91,22 +61,15 @@ void Calculadora::nuevoCaso() {
     MuestraPantalla(0);
 }
 
-void Calculadora::avanza() {
-    if (!ValidaPantalla()) return;
-    dejaPantalla(PantallaActual());
-    MuestraPantalla(pantallaSiguiente(PantallaActual()));
+void Calculadora::vuelveAlMenu() {
+    oculta();
 }
 
 void Calculadora::MuestraPantalla(int n) {
-    Anterior.ponVisible(n > 0);
-    Siguiente.ponVisible(n < ultimaPantalla());
     muestra(n);
     ponSubtitulo(subtituloDe(n));
     if (n == 0) {
         enfoca(campoNombre());
-    } else if (n == ultimaPantalla()) {
-        enfoca(Conclusion);
-        ActualizaConclusion();
     } else {
         enfocaPrimero();
     }
@@ -116,8 +79,6 @@ std::string Calculadora::subtituloDe(int pantalla) const {
     return def_.subtitulos.at(static_cast<std::size_t>(pantalla));
 }
 
-// --- Conclusions
-
 bool Calculadora::DatosTomaPantalla() {
     try {
         tomaCampos();
@@ -126,27 +87,6 @@ bool Calculadora::DatosTomaPantalla() {
         mensajes().ComunicaError("Algún dato no es correcto. Revise el supuesto");
         return false;
     }
-}
-
-void Calculadora::ActualizaConclusion() {
-    if (!calculaDesdeCampos()) DatosTomaPantalla();
-    Dictamen dictamen;
-    try {
-        calcula(dictamen);
-    } catch (const Fallo&) {
-        // The lines written so far stay, but nothing was decided.
-        dictamen.ConDerecho = false;
-        ponVeredicto(dictamen);
-        throw;
-    }
-    ponVeredicto(dictamen);
-}
-
-void Calculadora::ponVeredicto(const Dictamen& dictamen) {
-    ConDerecho_ = dictamen.ConDerecho;
-    Conclusion.ponTexto(dictamen.Conclusion());
-    Ok.ponVisible(ConDerecho_);
-    Mal.ponVisible(!ConDerecho_);
 }
 
 // --- Cases

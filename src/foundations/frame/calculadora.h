@@ -7,33 +7,30 @@
 #include "cases/archivo_supuestos.h"
 #include "cases/registro.h"
 #include "foundations/frame/formulario.h"
-#include "foundations/values/dictamen.h"
 
 namespace orvemo {
 
 /// What tells one calculator's frame from another's.
 struct DefCalculadora {
-    std::string titulo;                   ///< heading of the screen
-    std::string caption;                  ///< caption of the window
-    std::string fichero;                  ///< case file
-    int primerLibre = 1;                  ///< records below are examples
-    std::vector<std::string> subtitulos;  ///< one per panel, the conclusions last
+    std::string titulo{};                   ///< heading of the screen
+    std::string caption{};                  ///< caption of the window
+    std::string fichero{};                  ///< case file
+    int primerLibre{1};                     ///< records below are examples
+    std::vector<std::string> subtitulos{};  ///< one per panel
+    std::string campoNombre{"Nombre"};      ///< field with the person's name
+    std::string prefijoBarra{};             ///< what the names of the bar's buttons begin with
 };
 
-/// The wizard that every calculator is: panels of inputs, a last panel of conclusions, a bar of five buttons
-/// and one case record behind them.
+/// A screen with panels, a bar of five buttons and one case record behind it. How its panels follow one
+/// another, and where it calculates, is the derived screen's matter: most are an `Asistente`.
 class Calculadora : public Formulario {
   public:
     Calculadora(Entorno& entorno, DefCalculadora def);
 
-    /// The case gave a positive result.
-    [[nodiscard]] bool ConDerecho() const { return ConDerecho_; }
     /// Name of the case as last loaded or saved.
     [[nodiscard]] const std::string& NombreActual() const { return NombreActual_; }
-    /// The conclusions as they stand, line ends and report marks included.
-    [[nodiscard]] const std::string& textoConclusion() const { return Conclusion.texto(); }
     /// The person's name field.
-    [[nodiscard]] Campo& campoNombre() { return campo(nombreDelCampoNombre()); }
+    [[nodiscard]] Campo& campoNombre() { return campo(def_.campoNombre); }
     [[nodiscard]] const std::string& fichero() const { return def_.fichero; }
     /// Bytes of a record of the case file.
     [[nodiscard]] virtual std::size_t longitudRegistro() const = 0;
@@ -46,10 +43,10 @@ class Calculadora : public Formulario {
     bool DatosTomaPantalla();
     /// Reads record r into the buffer and the screen and shows panel 0; r below 1 does nothing.
     void DatosCargaRegistro(int r);
-    /// Gate of `Siguiente`: speaks and puts the focus on the faulty field itself.
-    [[nodiscard]] virtual bool ValidaPantalla() { return true; }
-    void MuestraPantalla(int n);
-    void ActualizaConclusion();
+    virtual void MuestraPantalla(int n);
+    /// Goes on as the user would, panel after panel, to the one with the results; stops where a panel doesn't
+    /// let pass.
+    virtual void concluye() = 0;
     void CargaCaso();
     void GrabaCaso();
     /// The report, from what stands on the screen, to any target.
@@ -67,29 +64,34 @@ class Calculadora : public Formulario {
     virtual void tomaCampos() = 0;
     /// Case buffer to fields.
     virtual void cargaCampos() = 0;
-    /// The calculation, on the case buffer.
-    virtual void calcula(Dictamen& dictamen) = 0;
     /// Codec of the case buffer.
     [[nodiscard]] virtual std::string escribeCaso() const = 0;
     virtual void leeCaso(std::string_view bytes) = 0;
+    /// The case's own name; a record without one takes it with its fields.
     virtual void ponNombreSupuesto(std::string_view nombre) = 0;
     [[nodiscard]] virtual std::string NombreSupuesto() const = 0;
 
-    [[nodiscard]] virtual std::string nombreDelCampoNombre() const { return "Nombre"; }
-    /// Whether `calcula` reads the fields itself, so that entering the conclusions doesn't copy them first.
-    [[nodiscard]] virtual bool calculaDesdeCampos() const { return false; }
     /// Whether a case whose fields can't all be read is saved with what was copied.
     [[nodiscard]] virtual bool grabaDatosIncompletos() const { return true; }
-    /// Panels that `Siguiente` and `Anterior` lead to.
-    [[nodiscard]] virtual int pantallaSiguiente(int pantalla) const { return pantalla + 1; }
-    [[nodiscard]] virtual int pantallaAnterior(int pantalla) const { return pantalla - 1; }
-    /// What happens on the way out of a panel by `Siguiente`, its checks passed.
-    virtual void dejaPantalla(int /*pantalla*/) {}
     [[nodiscard]] virtual std::string subtituloDe(int pantalla) const;
     /// After a load, once the fields are filled and before the panel shows.
     virtual void trasCargar() {}
+    /// What `BotonPrint` does.
+    virtual void alImprimir() { imprime(); }
 
+    /// The printing flow: asks for a target, prints the report there, says how it ended.
+    void imprime();
     [[nodiscard]] ArchivoSupuestos archivo() const;
+
+  private:
+    void nuevoCaso();
+    void vuelveAlMenu();
+    Campo& nuevoBoton(const std::string& nombre, std::string ayuda, void (Calculadora::*accion)(),
+                      bool descarta = false);
+
+    DefCalculadora def_;
+    std::string NombreActual_;
+    std::string motivoFallo_;  ///< why the last DatosGrabaRegistro wrote nothing
 
   public:
     // Controls of every calculator.
@@ -98,40 +100,39 @@ class Calculadora : public Formulario {
     Campo& BotonGraba;
     Campo& BotonPrint;
     Campo& BotonExit;
-    Campo& Anterior;
-    Campo& Siguiente;
-    Campo& Conclusion;
-    Campo& Ok;
-    Campo& Mal;
-
-  private:
-    void nuevoCaso();
-    void avanza();
-    void imprime();
-    void ponVeredicto(const Dictamen& dictamen);
-
-    DefCalculadora def_;
-    std::string NombreActual_;
-    std::string motivoFallo_;  ///< why the last DatosGrabaRegistro wrote nothing
-    bool ConDerecho_ = false;
 };
 
-/// The case buffer of a calculator, given its record and the layout of it.
-template <typename Registro, const auto& kDiseno>
-class CalculadoraDe : public Calculadora {
+/// A screen over the case buffer of a calculator, given its record and the layout of it.
+template <typename Base, typename Registro, const auto& kDiseno>
+class ConCaso : public Base {
   public:
-    using Calculadora::Calculadora;
+    using Base::Base;
+    using RegistroDelCaso = Registro;
 
+    [[nodiscard]] static constexpr const auto& diseno() { return kDiseno; }
     [[nodiscard]] std::size_t longitudRegistro() const final { return kDiseno.longitud(); }
     [[nodiscard]] const Registro& caso() const { return caso_; }
 
   protected:
     [[nodiscard]] std::string escribeCaso() const final { return kDiseno.escribe(caso_); }
     void leeCaso(std::string_view bytes) final { kDiseno.lee(bytes, caso_); }
-    void ponNombreSupuesto(std::string_view nombre) final { caso_.NombreSupuesto.asigna(nombre); }
-    [[nodiscard]] std::string NombreSupuesto() const final { return caso_.NombreSupuesto.utf8(); }
+    void ponNombreSupuesto(std::string_view nombre) override {
+        if constexpr (requires { caso_.NombreSupuesto; }) caso_.NombreSupuesto.asigna(nombre);
+    }
+    [[nodiscard]] std::string NombreSupuesto() const override {
+        if constexpr (requires { caso_.NombreSupuesto; }) {
+            return caso_.NombreSupuesto.utf8();
+        } else {
+            return caso_.Nombre.utf8();
+        }
+    }
 
     Registro caso_{};
+};
+
+template <typename Registro, const auto& kDiseno>
+class CalculadoraDe : public ConCaso<Calculadora, Registro, kDiseno> {
+    using ConCaso<Calculadora, Registro, kDiseno>::ConCaso;
 };
 
 }  // namespace orvemo

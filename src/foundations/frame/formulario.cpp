@@ -227,6 +227,11 @@ void Formulario::oculta() {
     if (vista_ != nullptr) vista_->oculta();
 }
 
+void Formulario::abreModal(Formulario& otra) {
+    otra.Inicia();
+    if (vista_ != nullptr) vista_->muestraModal(otra);
+}
+
 bool Formulario::protegido(const std::function<void()>& accion) {
     try {
         accion();

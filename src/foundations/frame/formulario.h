@@ -94,6 +94,8 @@ class Formulario {
     /// Moves the focus to the first field of the panel on view that can take it.
     void enfocaPrimero();
     void oculta();
+    /// Sets another screen up and shows it until it hides itself; without a renderer it comes back at once.
+    void abreModal(Formulario& otra);
     /// Runs an operation; a failure is told in a box. False when it failed.
     bool protegido(const std::function<void()>& accion);
 

@@ -33,12 +33,13 @@ std::string_view motivoDeHasta(const std::string& desde, const std::string& hast
 // --- Declaration
 
 PensionFrm::PensionFrm(Entorno& entorno)
-    : CalculadoraDe{entorno,
-                    {.titulo = "PENSIONES DE JUBILACIÓN",
-                     .caption = "Cálculo de pensiones de jubilación",
-                     .fichero = "jubila.nom",
-                     .subtitulos = {"Datos del solicitante", "Periodos cotizados", "Bases de cotización", "",
-                                    "", "", "", "", "CONCLUSIONES SOBRE PENSIÓN DE JUBILACIÓN"}}},
+    : AsistenteDe{entorno,
+                  {.titulo = "PENSIONES DE JUBILACIÓN",
+                   .caption = "Cálculo de pensiones de jubilación",
+                   .fichero = "jubila.nom",
+                   .subtitulos = {"Datos del solicitante", "Periodos cotizados", "Bases de cotización", "",
+                                  "", "", "", "", "CONCLUSIONES SOBRE PENSIÓN DE JUBILACIÓN"},
+                   .campoNombre = "JubiNombre"}},
       JubiNombre{nuevo({.nombre = "JubiNombre", .rotulo = "Nombre completo:", .largo = 80})},
       JubiFechaNac{
           nuevo({.nombre = "JubiFechaNac", .rotulo = "Fecha de nacimiento:", .clase = Clase::FechaSelector})},
@@ -142,11 +143,11 @@ std::vector<PensionFrm::FilaPeriodo> PensionFrm::nuevasFilas() {
 
 void PensionFrm::Inicia() {
     tablas_ = pensiones::IniciaPensiones(entorno().almacen);
-    Calculadora::Inicia();
+    AsistenteDe::Inicia();
 }
 
 void PensionFrm::LimpiaDatos() {
-    Calculadora::LimpiaDatos();
+    AsistenteDe::LimpiaDatos();
     baseActualProyectada_ = 0;
     BaseEditada_ = false;
     ajustaVisibles();
@@ -183,7 +184,7 @@ void PensionFrm::dejaPantalla(int pantalla) {
 /// A frame of bases bears its own caption there.
 std::string PensionFrm::subtituloDe(int pantalla) const {
     const int marco = pantalla - kPrimerMarco + 1;
-    if (marco < 1 || marco > kMarcos) return Calculadora::subtituloDe(pantalla);
+    if (marco < 1 || marco > kMarcos) return AsistenteDe::subtituloDe(pantalla);
     return "Bases de cotización de los últimos " + TextoPlano(serie_.MesesBases) + "  meses (" +
            TextoPlano(marco) + ")";
 }

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 #include "pensions/comun/pensiones.h"
 #include "pensions/comun/tablas_pensiones.h"
 #include "pensions/jubilacion/jubilacion_base.h"
@@ -17,7 +17,7 @@ class Informe;
 
 /// "PENSIONES DE JUBILACIÓN": the person's data, the periods, the bases as a sum or month by month, and the
 /// conclusions.
-class PensionFrm final : public CalculadoraDe<jubilacion::RegistroJubilacion, jubilacion::kDiseno> {
+class PensionFrm final : public AsistenteDe<jubilacion::RegistroJubilacion, jubilacion::kDiseno> {
   public:
     explicit PensionFrm(Entorno& entorno);
 
@@ -34,7 +34,6 @@ class PensionFrm final : public CalculadoraDe<jubilacion::RegistroJubilacion, ju
     [[nodiscard]] const pensiones::SerieBases& serie() const { return serie_; }
 
   protected:
-    [[nodiscard]] std::string nombreDelCampoNombre() const override { return "JubiNombre"; }
     void tomaCampos() override;
     void cargaCampos() override;
     void trasCargar() override;

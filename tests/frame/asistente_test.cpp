@@ -1,4 +1,4 @@
-#include "foundations/frame/calculadora.h"
+#include "foundations/frame/asistente.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,15 +25,15 @@ inline constexpr Diseno kMinimo{169, Tramo{0, "Estado", &RegistroMinimo::Estado}
                                 Tramo{161, "divisor", &RegistroMinimo::divisor}};
 
 /// Divides 12 by a number: the smallest calculator that can fail in mid calculation.
-class DivideFrm final : public CalculadoraDe<RegistroMinimo, kMinimo> {
+class DivideFrm final : public AsistenteDe<RegistroMinimo, kMinimo> {
   public:
     explicit DivideFrm(Entorno& entorno)
-        : CalculadoraDe{entorno,
-                        {.titulo = "DIVISION",
-                         .caption = "División",
-                         .fichero = "Divide.nom",
-                         .primerLibre = 2,
-                         .subtitulos = {"Datos", "CONCLUSIONES"}}},
+        : AsistenteDe{entorno,
+                      {.titulo = "DIVISION",
+                       .caption = "División",
+                       .fichero = "Divide.nom",
+                       .primerLibre = 2,
+                       .subtitulos = {"Datos", "CONCLUSIONES"}}},
           Nombre{nuevo({.nombre = "Nombre"})},
           divisor{nuevo({.nombre = "divisor", .defecto = "0"})} {}
 
@@ -67,9 +67,9 @@ class DivideFrm final : public CalculadoraDe<RegistroMinimo, kMinimo> {
     Campo& divisor;
 };
 
-class CalculadoraTest : public testing::Test {
+class AsistenteTest : public testing::Test {
   protected:
-    CalculadoraTest() {
+    AsistenteTest() {
         frm.ponVista(&vista);
         frm.Inicia();
     }
@@ -87,7 +87,7 @@ class CalculadoraTest : public testing::Test {
     DivideFrm frm{mundo.entorno};
 };
 
-TEST_F(CalculadoraTest, AFailureInMidCalculationKeepsTheLinesAndShowsMal) {
+TEST_F(AsistenteTest, AFailureInMidCalculationKeepsTheLinesAndShowsMal) {
     frm.pulsa(frm.Siguiente);
     EXPECT_EQ(frm.textoConclusion(), "Doce entre lo dado.\r\n");
     EXPECT_TRUE(frm.Mal.visible());
@@ -98,7 +98,7 @@ TEST_F(CalculadoraTest, AFailureInMidCalculationKeepsTheLinesAndShowsMal) {
     EXPECT_EQ(frm.PantallaActual(), 1);
 }
 
-TEST_F(CalculadoraTest, CalculatesAnewAtEveryEntryAndNeverElse) {
+TEST_F(AsistenteTest, CalculatesAnewAtEveryEntryAndNeverElse) {
     frm.escribe(frm.divisor, "4");
     frm.pulsa(frm.Siguiente);
     EXPECT_EQ(frm.textoConclusion(), "Doce entre lo dado.\r\nSon 3.\r\n");
@@ -112,7 +112,7 @@ TEST_F(CalculadoraTest, CalculatesAnewAtEveryEntryAndNeverElse) {
     EXPECT_EQ(frm.textoConclusion(), "Doce entre lo dado.\r\nSon 2.\r\n");
 }
 
-TEST_F(CalculadoraTest, SavesUnderANameOverwritesAfterAYesAndOffersThePersonsName) {
+TEST_F(AsistenteTest, SavesUnderANameOverwritesAfterAYesAndOffersThePersonsName) {
     frm.escribe(frm.Nombre, "Ana");
     frm.escribe(frm.divisor, "4");
     std::string ofrecido;
@@ -133,7 +133,7 @@ TEST_F(CalculadoraTest, SavesUnderANameOverwritesAfterAYesAndOffersThePersonsNam
     EXPECT_EQ(frm.NombreActual(), "Ana");
 }
 
-TEST_F(CalculadoraTest, ARefusedOverwriteWritesAllTheSameIfTheWindowIsClosed) {
+TEST_F(AsistenteTest, ARefusedOverwriteWritesAllTheSameIfTheWindowIsClosed) {
     frm.escribe(frm.divisor, "4");
     graba("Ana");
     frm.escribe(frm.divisor, "6");
@@ -148,7 +148,7 @@ TEST_F(CalculadoraTest, ARefusedOverwriteWritesAllTheSameIfTheWindowIsClosed) {
     EXPECT_EQ(frm.divisor.texto(), "6");
 }
 
-TEST_F(CalculadoraTest, AFullDiskIsToldAndTheOldCaseStays) {
+TEST_F(AsistenteTest, AFullDiskIsToldAndTheOldCaseStays) {
     frm.escribe(frm.divisor, "4");
     graba("Ana");
     const std::string antes = mundo.almacen["divide.nom"];
@@ -160,7 +160,7 @@ TEST_F(CalculadoraTest, AFullDiskIsToldAndTheOldCaseStays) {
     EXPECT_EQ(mundo.almacen["divide.nom"], antes);
 }
 
-TEST_F(CalculadoraTest, AReadOnlyDirectoryLetsComputeAndSaysWhyItCannotSave) {
+TEST_F(AsistenteTest, AReadOnlyDirectoryLetsComputeAndSaysWhyItCannotSave) {
     mundo.almacen.soloLectura = true;
     frm.escribe(frm.divisor, "4");
     frm.pulsa(frm.Siguiente);
@@ -171,7 +171,7 @@ TEST_F(CalculadoraTest, AReadOnlyDirectoryLetsComputeAndSaysWhyItCannotSave) {
     EXPECT_THAT(mundo.mensajes.dichos[0], testing::HasSubstr("no se puede escribir"));
 }
 
-TEST_F(CalculadoraTest, DataThatCannotBeReadAreSavedOrNotAsTheCalculatorTells) {
+TEST_F(AsistenteTest, DataThatCannotBeReadAreSavedOrNotAsTheCalculatorTells) {
     frm.escribe(frm.divisor, "x");
     frm.incompletos = false;
     graba("Ana");
@@ -181,7 +181,7 @@ TEST_F(CalculadoraTest, DataThatCannotBeReadAreSavedOrNotAsTheCalculatorTells) {
     EXPECT_EQ(mundo.almacen["divide.nom"].size(), 169U);
 }
 
-TEST_F(CalculadoraTest, ACaseThatCannotBeShownLeavesTheOneOnScreen) {
+TEST_F(AsistenteTest, ACaseThatCannotBeShownLeavesTheOneOnScreen) {
     RegistroMinimo malo;
     malo.divisor = -1;
     mundo.almacen["divide.nom"] = kMinimo.escribe(malo);
@@ -198,7 +198,7 @@ TEST_F(CalculadoraTest, ACaseThatCannotBeShownLeavesTheOneOnScreen) {
     EXPECT_EQ(frm.caso().divisor, 0) << "nor does anything of it reach the case in hand";
 }
 
-TEST_F(CalculadoraTest, PrintingSaysHowItEnded) {
+TEST_F(AsistenteTest, PrintingSaysHowItEnded) {
     mundo.impresora.cancela = true;
     frm.pulsa(frm.BotonPrint);
     EXPECT_THAT(mundo.mensajes.dichos, IsEmpty()) << "a cancelled dialog prints nothing and says nothing";

@@ -1,0 +1,33 @@
+#include "catalogue/catalogo.h"
+
+#include <array>
+
+#include "benefits/desempleo/desemp_frm.h"
+#include "benefits/familiar/familiar_frm.h"
+#include "benefits/it/ilt_frm.h"
+#include "benefits/maternidad/mater_frm.h"
+#include "benefits/nocontributiva/nocon_frm.h"
+#include "benefits/riesgo/riesgo_embarazo_frm.h"
+#include "pensions/jubilacion/pension_frm.h"
+
+namespace orvemo {
+
+namespace {
+
+constexpr std::array kCalculadoras{
+    conSupuestos<PensionFrm>("jubilacion", "PensionFrm", "jubila.nom", "ejemplos/jubila.nom"),
+    conSupuestos<DesempFrm>("desempleo", "DesempFrm", "desemp.nom", "ejemplos/desemp.nom"),
+    conSupuestos<ILTFrm>("it", "ILTFrm", "ILT.nom", "ejemplos/ILT.nom"),
+    conSupuestos<MaterFrm>("maternidad", "MaterFrm", "Mater.nom", "ejemplos/Mater.nom"),
+    conSupuestos<RiesgoEmbarazo>("riesgo", "RiesgoEmbarazo", "RiesgoEm.nom", "ejemplos/RiesgoEm.nom"),
+    conSupuestos<NoConFrm>("nocontributiva", "NoConFrm", "nocont.nom", "nocont.nom"),
+    conSupuestos<FamiliarFrm>("familiar", "FamiliarFrm", "Familiar.nom"),
+};
+
+}  // namespace
+
+Calculadoras CalculadorasDelPrograma() {
+    return kCalculadoras;
+}
+
+}  // namespace orvemo
