@@ -7,8 +7,8 @@
 #include <limits>
 
 #include "foundations/values/fallos.h"
-#include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
+#include "pensions/comun/serie_bases.h"
 
 namespace orvemo::jubilacion {
 
@@ -69,14 +69,9 @@ bool admiteMutualistas(Regimen regimen) {
     return regimen == Regimen::General || regimen == Regimen::Agrario;
 }
 
+/// The record has a row more than the screen.
 std::vector<Periodo> periodosDe(const RegistroJubilacion& caso) {
-    std::vector<Periodo> periodos;
-    for (std::size_t i = 0; i < kFilasPeriodos; ++i) {
-        const std::string desde = caso.JubiPerDesde[i].utf8();
-        if (EsVacio(desde)) continue;
-        periodos.push_back({FechaDe(desde), FechaDe(caso.JubiPerHasta[i].utf8())});
-    }
-    return periodos;
+    return pensiones::PeriodosDe(std::span{caso.JubiPerDesde}.first<kFilasPeriodos>(), caso.JubiPerHasta);
 }
 
 /// Some fifteen days over whole years already count as another year, so that no months remain.

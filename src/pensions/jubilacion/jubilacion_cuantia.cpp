@@ -5,6 +5,7 @@
 
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
+#include "pensions/comun/limites.h"
 #include "pensions/jubilacion/jubilacion_base.h"
 
 namespace orvemo::jubilacion {
@@ -12,14 +13,6 @@ namespace orvemo::jubilacion {
 namespace {
 
 using pensiones::TablasPensiones;
-
-// Figures of the law for 2005, euros a month in fourteen payments.
-constexpr double kPensionMaxima = 2159.12;
-struct Minimos {
-    double conConyuge, sinConyuge;
-};
-constexpr Minimos kMinimosAntesDe65{489.72, 408.78};
-constexpr Minimos kMinimosDesde65{524.01, 438.71};
 
 constexpr int kInflacionEstimada = 2;  // percent a year
 
@@ -37,9 +30,10 @@ bool seAnticipa(const Carrera& carrera) {
 }
 
 Limites limitesDe(const RegistroJubilacion& caso, const Carrera& carrera, float factor) {
-    const Minimos& minimos = seAnticipa(carrera) ? kMinimosAntesDe65 : kMinimosDesde65;
-    const double minimo = caso.JubiConyuge == 1 ? minimos.conConyuge : minimos.sinConyuge;
-    return {Redondeado(factor * minimo, 2), Redondeado(factor * kPensionMaxima, 2)};
+    const pensiones::Minimos& minimos =
+        seAnticipa(carrera) ? pensiones::kMinimosAntesDe65 : pensiones::kMinimosDesde65;
+    const double minimo = minimos.segun(caso.JubiConyuge == 1);
+    return {Redondeado(factor * minimo, 2), Redondeado(factor * pensiones::kPensionMaxima, 2)};
 }
 
 void informaDeInflacion(Dictamen& d) {

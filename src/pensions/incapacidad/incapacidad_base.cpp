@@ -1,0 +1,71 @@
+#include "pensions/incapacidad/incapacidad_base.h"
+
+#include "foundations/values/numeros.h"
+#include "pensions/comun/serie_bases.h"
+#include "pensions/incapacidad/incapacidad_periodos.h"
+
+namespace orvemo::incapacidad {
+
+namespace {
+
+using pensiones::TablasPensiones;
+
+constexpr double kMesesDelAnio = 12;
+constexpr double kPagasDeDosAnios = 28;     // fourteen a year
+constexpr int kMesesSerieCompleta = 96;     // eight years
+constexpr double kPagasSerieCompleta = 112;
+constexpr double kPagasPorMes = 1.1666;     // fourteenths, as the shorter series take them
+
+// What the screen asks for.
+constexpr int kMesesSinAlta = 180;
+constexpr int kDiasMinimos = 1825;
+constexpr double kDiasPorMes = 30;
+
+int mesesDeAdulto(const Expediente& e) {
+    const int dias = DiferenciaFechas(Intervalo::Dia, e.fecha20, e.caso.InvaFechaInv);
+    return Suelo(Mayor(kDiasMinimos, Suelo(dias / 4.0)) / kDiasPorMes);
+}
+
+}  // namespace
+
+Fecha FechaReferencia(Regimen regimen, Fecha InvaFechaInv, std::span<const std::string> InvaPerHasta) {
+    if (regimen != Regimen::General) return InvaFechaInv;
+    return pensiones::UltimoDiaCercano(InvaPerHasta, InvaFechaInv).value_or(InvaFechaInv);
+}
+
+bool promediaBases(const Expediente& e) {
+    if (e.causa == Causa::EnfermedadComun) return true;
+    return e.causa == Causa::AccidenteNoLaboral && e.grado != Grado::Total && !e.alta;
+}
+
+double InvaBaseReguladora(const Expediente& e, const TablasPensiones& tablas, int meses) {
+    const bool esGeneral = e.regimen == Regimen::General;
+    const Fecha referencia =
+        FechaReferencia(e.regimen, e.caso.InvaFechaInv, pensiones::TextosDe(e.caso.InvaPerHasta));
+    const pensiones::SumaBases partes = pensiones::SumaSerieBases(
+        e.caso.InvaBase, Menor(meses, kMesesSerieCompleta), referencia, tablas, esGeneral);
+    const double suma = partes.recientes + partes.anteriores;
+    if (meses < kMesesSerieCompleta) return Redondeado(Cociente(suma, kPagasPorMes * meses), 2);
+    return Redondeado(suma / kPagasSerieCompleta, 2);
+}
+
+double baseReguladora(const Expediente& e, const TablasPensiones& tablas, int minimo) {
+    if (e.causa == Causa::Profesional) return Redondeado(e.caso.InvaUltimaBase / kMesesDelAnio, 2);
+    if (!promediaBases(e)) return Redondeado(e.caso.InvaUltimaBase / kPagasDeDosAnios, 2);
+    if (e.caso.InvaBasesDesglosadas == 1) {
+        return InvaBaseReguladora(e, tablas, Menor(kMesesSerieCompleta, minimo));
+    }
+    if (minimo > kMesesSerieCompleta) return Redondeado(e.caso.InvaSumaBases / kPagasSerieCompleta, 2);
+    return Redondeado(Cociente(e.caso.InvaSumaBases, kPagasPorMes * minimo), 2);
+}
+
+int InvaMinimoBases(const Expediente& e) {
+    if (e.causa != Causa::EnfermedadComun) return 0;
+    const auto meses = [&] {
+        if (!e.alta) return kMesesSinAlta;
+        return e.edad < kEdadDeAdulto ? minimoDeJoven(e).meses : mesesDeAdulto(e);
+    };
+    return Menor(meses(), kMesesSerieCompleta);
+}
+
+}  // namespace orvemo::incapacidad
