@@ -133,6 +133,24 @@ int ArchivoSupuestos::agrega(std::string bytes) {
     return r;
 }
 
+void ArchivoSupuestos::agregaTodos(std::span<const std::string> registros) {
+    if (registros.empty()) return;
+    const auto fichero = almacen_.abre(nombre_, Acceso::Escritura);
+    int cuantos = cuenta(*fichero);
+    std::string contenido(static_cast<std::size_t>(cuantos) * longitud_, '\0');
+    fichero->lee(0, contenido);
+    int r = 1;
+    for (const std::string& bytes : registros) {
+        while (r <= cuantos && contenido[posicion(r)] != kRegistroLibre) ++r;
+        if (r > kMaxRegistros) throw DemasiadosSupuestos{nombre_, r};
+        cuantos = std::max(cuantos, r);
+        contenido.resize(std::max(contenido.size(), posicion(r + 1)));
+        contenido.replace(posicion(r), longitud_, bytes);
+        ++r;
+    }
+    almacen_.sustituye(nombre_, contenido);
+}
+
 void ArchivoSupuestos::sobrescribe(int r, std::string bytes) {
     bytes.front() = kRegistroEnUso;
     escribeEntero(*almacen_.abre(nombre_, Acceso::Escritura), r, bytes);

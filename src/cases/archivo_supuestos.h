@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,6 +64,10 @@ class ArchivoSupuestos {
 
     /// Writes a whole record, in use, into the first free slot or at the end, and gives its number.
     int agrega(std::string bytes);
+
+    /// Writes whole records as they are, each into the first free slot left or at the end: all of them or, if
+    /// anything fails, none.
+    void agregaTodos(std::span<const std::string> registros);
 
     /// Writes a whole record, in use, over record r (from 1).
     void sobrescribe(int r, std::string bytes);

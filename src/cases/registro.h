@@ -12,6 +12,7 @@
 #include <tuple>
 #include <type_traits>
 
+#include "cases/forma.h"
 #include "foundations/values/fechas.h"
 #include "foundations/values/textos.h"
 
@@ -62,13 +63,20 @@ concept ConDiseno = requires(const T* ninguno) {
     DisenoDe(ninguno).longitud();
 };
 
-/// How a field of type T lies in a record: its width and the two ways across.
+template <typename T>
+constexpr Naturaleza naturalezaDe() {
+    if constexpr (std::is_floating_point_v<T>) return Naturaleza::Real;
+    return std::is_signed_v<T> ? Naturaleza::Entero : Naturaleza::Natural;
+}
+
+/// How a field of type T lies in a record: its form, its width and the two ways across.
 template <typename T>
 struct EnRegistro {
     static_assert(
         std::is_arithmetic_v<T>,
         "a field of a record is a number, a date, a text, a struct with its layout or an array of them");
     static constexpr std::size_t kAncho = sizeof(T);
+    static constexpr Forma kForma{naturalezaDe<T>(), kAncho};
     static void lee(const char* origen, T& campo) { std::memcpy(&campo, origen, sizeof(T)); }
     static void escribe(char* destino, const T& campo) { std::memcpy(destino, &campo, sizeof(T)); }
 };
@@ -76,6 +84,7 @@ struct EnRegistro {
 template <std::size_t N>
 struct EnRegistro<Texto<N>> {
     static constexpr std::size_t kAncho = N;
+    static constexpr Forma kForma{Naturaleza::Texto, kAncho};
     static void lee(const char* origen, Texto<N>& campo) { std::memcpy(campo.bytes().data(), origen, N); }
     static void escribe(char* destino, const Texto<N>& campo) {
         std::memcpy(destino, campo.bytes().data(), N);
@@ -85,6 +94,7 @@ struct EnRegistro<Texto<N>> {
 template <>
 struct EnRegistro<Fecha> {
     static constexpr std::size_t kAncho = sizeof(double);
+    static constexpr Forma kForma{Naturaleza::Dias, kAncho};
     static void lee(const char* origen, Fecha& campo) {
         double serie = 0;
         std::memcpy(&serie, origen, sizeof serie);
@@ -100,6 +110,8 @@ template <ConDiseno T>
 struct EnRegistro<T> {
     static constexpr const auto& kDiseno = DisenoDe(static_cast<const T*>(nullptr));
     static constexpr std::size_t kAncho = kDiseno.longitud();
+    static constexpr auto kMiembros = kDiseno.miembros();
+    static constexpr Forma kForma{Naturaleza::Conjunto, kAncho, nullptr, kMiembros};
     static void lee(const char* origen, T& campo) { kDiseno.lee({origen, kAncho}, campo); }
     static void escribe(char* destino, const T& campo) { kDiseno.escribe(destino, campo); }
 };
@@ -107,6 +119,7 @@ struct EnRegistro<T> {
 template <typename T, std::size_t N>
 struct EnRegistro<std::array<T, N>> {
     static constexpr std::size_t kAncho = N * EnRegistro<T>::kAncho;
+    static constexpr Forma kForma{Naturaleza::Lista, kAncho, &EnRegistro<T>::kForma};
     static void lee(const char* origen, std::array<T, N>& campo) {
         for (std::size_t i = 0; i < N; ++i) EnRegistro<T>::lee(origen + i * EnRegistro<T>::kAncho, campo[i]);
     }
@@ -143,10 +156,22 @@ class Diseno {
             }(tramos),
             ...);
         if (fin != longitud) throw "the layout does not cover the length of the record";
+        std::array<std::string_view, sizeof...(T)> nombres{tramos.nombre...};
+        std::ranges::sort(nombres);
+        if (std::ranges::adjacent_find(nombres) != nombres.end()) throw "two fields have the same name";
     }
 
     /// Bytes of a record.
     [[nodiscard]] constexpr std::size_t longitud() const { return longitud_; }
+
+    /// The same table without its types.
+    [[nodiscard]] constexpr std::array<Miembro, sizeof...(T)> miembros() const {
+        return std::apply(
+            [](const auto&... tramo) {
+                return std::array{Miembro{tramo.nombre, tramo.posicion, &EnRegistro<T>::kForma}...};
+            },
+            tramos_);
+    }
 
     /// The record that stands in `bytes`, which holds at least `longitud()`.
     void lee(std::span<const char> bytes, Registro& registro) const {
@@ -179,5 +204,11 @@ class Diseno {
 };
 template <typename Registro, typename... T>
 Diseno(int, Tramo<Registro, T>...) -> Diseno<Registro, T...>;
+
+/// The layout of a record without its types.
+template <const auto& kDiseno>
+inline constexpr auto kMiembrosDe = kDiseno.miembros();
+template <const auto& kDiseno>
+inline constexpr Forma kFormaDe{Naturaleza::Conjunto, kDiseno.longitud(), nullptr, kMiembrosDe<kDiseno>};
 
 }  // namespace orvemo

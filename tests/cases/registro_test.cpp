@@ -1,9 +1,12 @@
 #include "cases/registro.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <initializer_list>
 #include <limits>
+
+#include "cases/texto_caso.h"
 
 namespace orvemo {
 namespace {
@@ -110,6 +113,32 @@ TEST(Registro, IsReadBackFieldByField) {
     EXPECT_EQ(muestra.Contrato.utf8SinRecortar(), "087 ");
     EXPECT_EQ(muestra.reservado.utf8SinRecortar(), "");
     EXPECT_EQ(kMuestra.escribe(muestra), kImagen) << "reserved bytes go back as they came";
+}
+
+TEST(Registro, TellsItsFieldsByName) {
+    std::string texto;
+    EscribeCampos(texto, kFormaDe<kMuestra>, kImagen);
+    EXPECT_EQ(texto, R"({"Estado":"","Nombre":"Peña €5","Edad":38,"Hijos":-2,"Tipo":0.25,"Suma":1.5,)"
+                     R"("Alta":"2005-06-06","Bases":[2,-2],"Claves":["A","BC"],)"
+                     R"("Hijo":[{"Presente":1,"Nacimiento":2001},{"Presente":0,"Nacimiento":0}],)"
+                     R"("Padre":{"Presente":1,"Nacimiento":1950},"Contrato":"087","reservado":null})");
+}
+
+// What a damaged file may hold, and has to come out of its text as it went in.
+TEST(Registro, TellsAlsoWhatNoScreenWrites) {
+    std::string bytes = kImagen;
+    bytes.replace(1, 10, std::string{" \0\x1B\"\x81\n    ", 10});
+    EnRegistro<float>::escribe(&bytes[17], 12.35F);
+    EnRegistro<double>::escribe(&bytes[21], -0.0);
+    EnRegistro<double>::escribe(&bytes[29], 38509.5);
+    EnRegistro<double>::escribe(&bytes[37], std::numeric_limits<double>::infinity());
+    std::string texto;
+    EscribeCampos(texto, kFormaDe<kMuestra>, bytes);
+    EXPECT_THAT(
+        texto,
+        testing::StartsWith(
+            R"({"Estado":"","Nombre":" \u0000\u001b\"\u0081\n","Edad":38,"Hijos":-2,"Tipo":12.35,"Suma":-0.0,)"
+            R"("Alta":38509.5,"Bases":["0x7ff0000000000000",-2])"));
 }
 
 TEST(Registro, ADateThatIsNoneReadsAs01011900) {

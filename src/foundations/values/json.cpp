@@ -1,0 +1,109 @@
+#include "foundations/values/json.h"
+
+#include <algorithm>
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+
+#include "foundations/values/textos.h"
+
+namespace orvemo {
+namespace {
+
+constexpr std::string_view kHexadecimales = "0123456789abcdef";
+
+/// The escapes of one letter.
+struct Escape {
+    char32_t caracter;
+    std::string_view escrito;
+};
+constexpr std::array kEscapes{Escape{'"', "\\\""},  Escape{'\\', "\\\\"}, Escape{'\b', "\\b"}, Escape{'\f', "\\f"},
+                              Escape{'\n', "\\n"}, Escape{'\r', "\\r"},  Escape{'\t', "\\t"}};
+
+/// The controls of the two halves of the table of characters.
+bool esControl(char32_t caracter) {
+    return caracter < 0x20 || (caracter >= 0x7F && caracter < 0xA0);
+}
+
+bool esLlano(char c) {
+    return c >= ' ' && c != '"' && c != '\\' && c != 0x7F;  // a char above 0x7F is negative
+}
+
+template <typename Bits>
+void agregaHexadecimal(std::string& salida, Bits bits, int cifras) {
+    for (int i = cifras - 1; i >= 0; --i) salida += kHexadecimales[(bits >> (4 * i)) & 0xFU];
+}
+
+void agregaCaracter(std::string& salida, char32_t caracter) {
+    const auto escape = std::ranges::find(kEscapes, caracter, &Escape::caracter);
+    if (escape != kEscapes.end()) {
+        salida += escape->escrito;
+    } else if (esControl(caracter)) {
+        salida += "\\u";
+        agregaHexadecimal(salida, static_cast<std::uint32_t>(caracter), 4);
+    } else {
+        AgregaCaracter(salida, caracter);
+    }
+}
+
+template <typename T>
+void agregaNumero(std::string& salida, T numero) {
+    char cifras[40];
+    const auto fin = std::to_chars(cifras, cifras + sizeof cifras, numero);
+    salida.append(cifras, fin.ptr);
+}
+
+template <typename Bits, typename T>
+void agregaReal(std::string& salida, T numero) {
+    if (!std::isfinite(numero)) {
+        salida += "\"0x";
+        agregaHexadecimal(salida, std::bit_cast<Bits>(numero), 2 * static_cast<int>(sizeof numero));
+        salida += '"';
+    } else if (numero == 0 && std::signbit(numero)) {
+        salida += "-0.0";  // "-0" reads as a whole number, which has no such zero
+    } else {
+        agregaNumero(salida, numero);
+    }
+}
+
+}  // namespace
+
+void AgregaJson(std::string& salida, std::string_view texto) {
+    salida += '"';
+    for (std::size_t pos = 0; pos < texto.size();) {
+        const auto especial = std::find_if_not(texto.begin() + static_cast<std::ptrdiff_t>(pos), texto.end(), esLlano);
+        const auto fin = static_cast<std::size_t>(especial - texto.begin());
+        salida.append(texto, pos, fin - pos);
+        pos = fin;
+        if (pos < texto.size()) agregaCaracter(salida, SiguienteCaracter(texto, pos));
+    }
+    salida += '"';
+}
+
+void AgregaJson(std::string& salida, const char* texto) {
+    AgregaJson(salida, std::string_view{texto});
+}
+
+void AgregaJson(std::string& salida, double numero) {
+    agregaReal<std::uint64_t>(salida, numero);
+}
+
+void AgregaJson(std::string& salida, float numero) {
+    const std::size_t antes = salida.size();
+    agregaReal<std::uint32_t>(salida, numero);
+    if (!std::isfinite(numero)) return;
+    // Who reads takes the digits for a double first; where that double lies between two singles, all of its
+    // own digits are needed.
+    double leido = 0;
+    std::from_chars(salida.data() + antes, salida.data() + salida.size(), leido);
+    if (static_cast<float>(leido) == numero) return;
+    salida.resize(antes);
+    AgregaJson(salida, static_cast<double>(numero));
+}
+
+void AgregaEnteroJson(std::string& salida, long long numero) {
+    agregaNumero(salida, numero);
+}
+
+}  // namespace orvemo
