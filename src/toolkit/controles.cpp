@@ -64,6 +64,7 @@ class EtiquetaCampo final : public QLabel, public Control {
 
   protected:
     void refrescaValor() override {
+        if (campo().def().clase == Clase::Grafica) return setText(aQt(campo().grafica().descripcion));
         setText(aQt(campo().texto().empty() ? campo().rotulo() : campo().texto()));
     }
 };
@@ -94,6 +95,7 @@ Control* crea(Campo& campo, Anfitrion& anfitrion) {
 Control* deSuClase(Campo& campo, Anfitrion& anfitrion) {
     switch (campo.def().clase) {
         case Clase::Texto:
+        case Clase::Resultado:
             return crea<LineaCampo>(campo, anfitrion);
         case Clase::FechaSelector:
         case Clase::FechaEscrita:
@@ -101,6 +103,7 @@ Control* deSuClase(Campo& campo, Anfitrion& anfitrion) {
         case Clase::Casilla:
             return crea<CasillaCampo>(campo, anfitrion);
         case Clase::Lista:
+        case Clase::Opciones:
             return crea<ListaCampo>(campo, anfitrion);
         case Clase::ListaAbierta:
             return crea<ListaAbiertaCampo>(campo, anfitrion);
@@ -112,6 +115,7 @@ Control* deSuClase(Campo& campo, Anfitrion& anfitrion) {
             return nuevoBoton(campo, anfitrion);
         case Clase::Veredicto:
             return crea<VeredictoCampo>(campo, anfitrion);
+        case Clase::Grafica:  // told in words
         case Clase::Etiqueta:
             break;
     }

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "foundations/values/teclas.h"
 #include "toolkit/medidas.h"
 #include "toolkit/textos_qt.h"
 
@@ -36,20 +35,27 @@ bool cambiaDeCampo(Qt::FocusReason motivo) {
 
 LineaCampo::LineaCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfitrion} {
     if (campo.def().largo > 0) setMaxLength(static_cast<int>(campo.def().largo));
-    if (esDecimal() || campo.def().filtro == &TeclaDigito) setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const bool esResultado = campo.def().clase == Clase::Resultado;
+    if (esDecimal() || campo.def().contenido == Contenido::Entero || esResultado) {
+        setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    if (esResultado) {
+        setReadOnly(true);
+        setFocusPolicy(Qt::NoFocus);
+    }
     setTextMargins(px(kRellenoCampo), 0, px(kRellenoCampo), 0);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QLineEdit::textChanged, this, &LineaCampo::cambia);
 }
 
 bool LineaCampo::esDecimal() const {
-    return campo().def().filtro == &TeclaNumero || !campo().def().formato.empty();
+    return campo().def().contenido == Contenido::Decimal || !campo().def().formato.empty();
 }
 
 int LineaCampo::anchura() const {
     const DefCampo& def = campo().def();
     if (def.anchura > 0) return std::max(def.anchura, kAnchuraMinima);
-    if (def.filtro == &TeclaDigito) return kAnchuraEntero;
+    if (def.contenido == Contenido::Entero) return kAnchuraEntero;
     if (esDecimal()) return kAnchuraDecimal;
     if (def.largo > 0) return std::clamp(static_cast<int>(def.largo), kAnchuraMinima, kAnchuraTexto);
     return kAnchuraTexto;

@@ -30,9 +30,11 @@ constexpr int kHuecoBloques = 150;
 bool llevaRotulo(Clase clase) {
     switch (clase) {
         case Clase::Texto:
+        case Clase::Resultado:
         case Clase::FechaSelector:
         case Clase::FechaEscrita:
         case Clase::Lista:
+        case Clase::Opciones:
         case Clase::ListaAbierta:
         case Clase::TextoLargo:
             return true;
@@ -44,7 +46,7 @@ bool llevaRotulo(Clase clase) {
 /// Kinds that take the whole width of the panel, a label of theirs above.
 bool esAncha(Clase clase) {
     return clase == Clase::ListaAbierta || clase == Clase::TextoLargo || clase == Clase::Etiqueta ||
-           clase == Clase::Imagen;
+           clase == Clase::Imagen || clase == Clase::Grafica;
 }
 
 /// Kinds that take what height is left.

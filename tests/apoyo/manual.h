@@ -105,7 +105,7 @@ inline void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const
     ASSERT_TRUE(frm.foco(*campo)) << rotulo;
     if (campo->def().clase == Clase::Casilla) {
         frm.marca(*campo, valor == "sí");
-    } else if (campo->def().clase == Clase::Lista) {
+    } else if (campo->esLista()) {
         const auto opcion = std::ranges::find(campo->opciones(), valor);
         ASSERT_NE(opcion, campo->opciones().end()) << valor;
         frm.elige(*campo, static_cast<int>(opcion - campo->opciones().begin()));

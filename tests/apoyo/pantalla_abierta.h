@@ -66,7 +66,7 @@ class PantallaAbierta : public testing::Test {
         const std::string aviso = "Error: El número no es correcto. Debe introducir un número entre ";
         std::vector<std::string> todos;
         for (Campo& campo : frm.campos()) {
-            if (campo.pantalla() != 0 || !campo.visible() || campo.def().filtro == nullptr) continue;
+            if (campo.pantalla() != 0 || !campo.visible() || !campo.def().filtro) continue;
             const std::string antes = campo.texto();
             mundo.mensajes.dichos.assign(1, aviso);
             escribe(campo, "9999999999");

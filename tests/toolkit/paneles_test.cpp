@@ -45,7 +45,7 @@ class FormularioDeBases final : public Formulario {
                    .rotulo = "01. may-05",
                    .pantalla = 1,
                    .grupo = &Bases,
-                   .filtro = TeclaNumero});
+                   .contenido = Contenido::Decimal});
         }
         nuevo({.nombre = "Nota", .rotulo = "Nota", .clase = Clase::Etiqueta, .pantalla = 2});
     }

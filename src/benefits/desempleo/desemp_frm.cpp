@@ -26,7 +26,7 @@ DesempFrm::DesempFrm(Entorno& entorno)
       Horas{nuevo({.nombre = "Horas",
                    .rotulo = "Horas reales trabajadas durante la semana (1 a 39 horas):",
                    .defecto = "0",
-                   .filtro = TeclaDigito,
+                   .contenido = Contenido::Entero,
                    .alSalir = rango("1", "39"),
                    .visible = false})} {}
 

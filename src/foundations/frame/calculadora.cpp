@@ -8,10 +8,10 @@ namespace orvemo {
 
 namespace {
 
+/// What the user fills in; conclusions and results stay until the next calculation.
 bool tieneDefecto(const Campo& campo) {
-    const Clase clase = campo.def().clase;
-    return campo.pantalla() >= 0 && clase != Clase::TextoLargo && clase != Clase::Etiqueta &&
-           clase != Clase::Veredicto && clase != Clase::Boton && clase != Clase::Imagen;
+    return campo.pantalla() >= 0 &&
+           (campo.esTexto() || campo.esLista() || campo.def().clase == Clase::Casilla);
 }
 
 }  // namespace

@@ -6,12 +6,19 @@
 #include "foundations/frame/formulario.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
+#include "foundations/values/textos.h"
 
 namespace orvemo {
 
 namespace {
 
 constexpr std::string_view kPatronFecha = "dd-MM-yyyy";
+
+FiltroTecla filtroDe(Contenido contenido) {
+    if (contenido == Contenido::Entero) return TeclaDigito;
+    if (contenido == Contenido::Decimal) return TeclaNumero;
+    return {};
+}
 
 }  // namespace
 
@@ -35,6 +42,7 @@ Campo::Campo(Formulario& formulario, DefCampo def)
       rotulo_{def_.rotulo},
       pantalla_{def_.pantalla},
       visible_{def_.visible} {
+    if (!def_.filtro) def_.filtro = filtroDe(def_.contenido);
     ponDefecto();
 }
 
@@ -43,6 +51,7 @@ void Campo::refresca() const {
 }
 
 void Campo::ponTexto(std::string texto) {
+    if (def_.largo > 0) texto = PrimerosCaracteres(texto, def_.largo);
     if (esFecha()) {
         fechaAsentada_ = texto;
         if (EsFecha(texto)) fechaValida_ = texto;
@@ -64,17 +73,40 @@ void Campo::ponMarcado(bool marcado) {
 }
 
 void Campo::ponIndice(int indice) {
+    if (ponIndiceSinReaccion(indice)) formulario_.reacciona(*this);
+}
+
+bool Campo::ponIndiceSinReaccion(int indice) {
     const int ultima = static_cast<int>(opciones_.size()) - 1;
     const int nueva = indice < 0 && indice != -1 ? std::min(0, ultima) : std::min(indice, ultima);
     const bool cambia = std::exchange(indice_, nueva) != nueva;
     texto_ = nueva < 0 ? std::string{} : opciones_[static_cast<std::size_t>(nueva)];
     refresca();
-    if (cambia) formulario_.reacciona(*this);
+    return cambia;
 }
 
 void Campo::ponOpciones(std::vector<std::string> opciones) {
     opciones_ = std::move(opciones);
+    datos_.clear();
     ponIndice(indice_);
+}
+
+void Campo::rellena(std::vector<std::string> opciones, std::vector<std::int64_t> datos, int indice) {
+    opciones_ = std::move(opciones);
+    datos_ = std::move(datos);
+    ponIndiceSinReaccion(indice);
+    formulario_.reacciona(*this);
+}
+
+std::int64_t Campo::dato(int indice) const {
+    const auto i = static_cast<std::size_t>(indice);
+    return indice >= 0 && i < datos_.size() ? datos_[i] : 0;
+}
+
+void Campo::ponGrafica(Grafica grafica) {
+    if (grafica == grafica_) return;
+    grafica_ = std::move(grafica);
+    refresca();
 }
 
 bool Campo::visible() const {
@@ -108,6 +140,7 @@ void Campo::ponDefecto() {
             ponMarcado(!def_.defecto.empty());
             break;
         case Clase::Lista:
+        case Clase::Opciones:
         case Clase::ListaAbierta:
             ponIndice(def_.defecto.empty() ? 0 : EnteroDe(def_.defecto));
             break;
@@ -124,8 +157,20 @@ void Campo::pideFoco() {
 }
 
 bool Campo::enfocable() const {
-    return activo_ && visible() && def_.clase != Clase::Etiqueta && def_.clase != Clase::Imagen &&
-           def_.clase != Clase::Veredicto;
+    switch (def_.clase) {
+        case Clase::Resultado:
+        case Clase::Etiqueta:
+        case Clase::Imagen:
+        case Clase::Veredicto:
+        case Clase::Grafica:
+            return false;
+        default:
+            return activo_ && visible();
+    }
+}
+
+bool Campo::esLista() const {
+    return def_.clase == Clase::Lista || def_.clase == Clase::Opciones || def_.clase == Clase::ListaAbierta;
 }
 
 bool Campo::esTexto() const {

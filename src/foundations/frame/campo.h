@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,16 +18,26 @@ class Formulario;
 /// What a field is; the renderer has one widget for each.
 enum class Clase {
     Texto,          ///< one line of text, numbers included
+    Resultado,      ///< read-only text or amount, right-aligned, its width fixed by `anchura`
     FechaSelector,  ///< date picker: never holds anything but a date once left
     FechaEscrita,   ///< typed date with a drop-down calendar; may be blank or bad
     Casilla,        ///< check box
     Lista,          ///< drop-down list
+    Opciones,       ///< a list whose entries are long: each a radio button with its whole line
     ListaAbierta,   ///< list box
     TextoLargo,     ///< read-only text of several lines; the truth keeps its CR LF
     Etiqueta,       ///< a note or heading without a value
     Imagen,         ///< picture of the application directory, its bare name in the text
     Boton,
     Veredicto,  ///< the mark Ok or Mal
+    Grafica,    ///< a line through points, one of them marked
+};
+
+/// What a text is made of: decides its key filter, unless it has its own, and how it is aligned.
+enum class Contenido {
+    Libre,
+    Entero,   ///< digits
+    Decimal,  ///< digits, one comma, a minus in front
 };
 
 /// Panels that aren't of the wizard: always on view.
@@ -38,6 +50,11 @@ enum class Disposicion {
     Columnas,  ///< label and field pairs run down one column, then the next
 };
 
+/// How a panel as a whole is laid out.
+struct DefPanel {
+    bool denso{false};  ///< rows close together, for a panel with many fields
+};
+
 /// A frame of fields within a panel, shown and hidden as one.
 struct DefGrupo {
     std::string nombre{};
@@ -47,6 +64,7 @@ struct DefGrupo {
     int columnas{1};
     std::vector<std::string> encabezados{};
     bool visible{true};
+    bool alLado{false};  ///< stands at the right of the group declared before it
 };
 
 class Grupo {
@@ -70,6 +88,22 @@ class Grupo {
 
 using Reaccion = std::function<void(Campo&)>;
 
+struct PuntoGrafica {
+    double x;
+    double y;
+    friend bool operator==(const PuntoGrafica&, const PuntoGrafica&) = default;
+};
+
+/// What a plot shows.
+struct Grafica {
+    std::vector<PuntoGrafica> puntos{};     ///< by their x, ascending
+    std::optional<PuntoGrafica> marcado{};  ///< the one that it is all about
+    std::string ejeX{};                     ///< caption of the axis
+    std::string ejeY{};
+    std::string descripcion{};  ///< the same in words, for who can't see it
+    friend bool operator==(const Grafica&, const Grafica&) = default;
+};
+
 /// The declaration of a field, one line each in a calculator's screen.
 struct DefCampo {
     std::string nombre{};  ///< as told; also its name for tests and accessibility scripts
@@ -79,8 +113,9 @@ struct DefCampo {
     int pantalla{0};
     Grupo* grupo{nullptr};
     std::string defecto{};  ///< text of a new case; a blank date picker takes today's date
-    std::size_t largo{0};   ///< most characters; 0 is no limit
-    FiltroTecla filtro{nullptr};
+    std::size_t largo{0};   ///< most characters, typed or set; 0 is no limit
+    Contenido contenido{Contenido::Libre};
+    FiltroTecla filtro{};   ///< of its own; otherwise its content's
     std::string formato{};  ///< pattern of the display while the field hasn't the focus
     std::vector<std::string> opciones{};
     Reaccion alSalir{};     ///< check on leaving
@@ -93,6 +128,7 @@ struct DefCampo {
     bool mismaLinea{false};       ///< stands on the row of the field before it
     bool sinComprobacion{false};  ///< buttons that run no leave check: what it would protect is thrown away
     int anchura{0};               ///< characters to show; 0 lets the kind decide
+    bool pequeno{false};          ///< of a button: no larger than its text ("?"), beside a field
 };
 
 /// A field of a form: its declaration and its present state. Every change reaches the renderer.
@@ -120,6 +156,16 @@ class Campo final : public ControlTexto {
     [[nodiscard]] const std::vector<std::string>& opciones() const { return opciones_; }
     /// Refills a list; the index is kept, lowered to the last entry if need be.
     void ponOpciones(std::vector<std::string> opciones);
+    /// Fills a list anew, each entry with a datum, and chooses one. It reacts whatever stood there before.
+    void rellena(std::vector<std::string> opciones, std::vector<std::int64_t> datos, int indice);
+    /// Datum of the entry chosen; 0 without one.
+    [[nodiscard]] std::int64_t dato() const { return dato(indice_); }
+    /// Datum of an entry; 0 without one.
+    [[nodiscard]] std::int64_t dato(int indice) const;
+    [[nodiscard]] const std::vector<std::int64_t>& datos() const { return datos_; }
+
+    [[nodiscard]] const Grafica& grafica() const { return grafica_; }
+    void ponGrafica(Grafica grafica);
 
     /// Its own switch and that of its group, whichever panel is on view.
     [[nodiscard]] bool visible() const;
@@ -141,11 +187,15 @@ class Campo final : public ControlTexto {
     /// Whether it can take the focus at all.
     [[nodiscard]] bool enfocable() const;
     [[nodiscard]] bool esTexto() const;
+    /// It has entries to choose from, however they are shown.
+    [[nodiscard]] bool esLista() const;
     [[nodiscard]] bool esFecha() const;
 
   private:
     friend class Formulario;
     void refresca() const;
+    /// True when it is another one than before.
+    bool ponIndiceSinReaccion(int indice);
     /// Of a date on being left: rewritten as "dd-MM-yyyy"; a picker that can't be read goes back to its last
     /// date. True when it tells another date than when last settled or set.
     bool asientaFecha();
@@ -156,6 +206,8 @@ class Campo final : public ControlTexto {
     std::string fechaValida_;    ///< of a picker: where it goes back to when left unreadable
     std::string fechaAsentada_;  ///< of a date: its text when last settled
     std::vector<std::string> opciones_;
+    std::vector<std::int64_t> datos_;  ///< of the entries, where they have them
+    Grafica grafica_;
     std::string rotulo_;
     int indice_ = -1;
     int pantalla_;

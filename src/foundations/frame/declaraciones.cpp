@@ -16,7 +16,7 @@ DefCampo decimal(std::string nombre, std::string rotulo, Reaccion alSalir, Grupo
             .rotulo = std::move(rotulo),
             .grupo = grupo,
             .defecto = "0",
-            .filtro = TeclaNumero,
+            .contenido = Contenido::Decimal,
             .alSalir = std::move(alSalir)};
 }
 
@@ -25,7 +25,7 @@ DefCampo entero(std::string nombre, std::string rotulo, Reaccion alSalir, Grupo*
             .rotulo = std::move(rotulo),
             .grupo = grupo,
             .defecto = std::move(defecto),
-            .filtro = TeclaDigito,
+            .contenido = Contenido::Entero,
             .alSalir = std::move(alSalir)};
 }
 
@@ -36,6 +36,35 @@ DefCampo lista(std::string nombre, std::string rotulo, std::vector<std::string> 
             .clase = Clase::Lista,
             .opciones = std::move(opciones),
             .alCambiar = std::move(alCambiar)};
+}
+
+DefCampo opciones(std::string nombre, std::string rotulo, std::vector<std::string> entradas,
+                  Reaccion alCambiar) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .clase = Clase::Opciones,
+            .opciones = std::move(entradas),
+            .alCambiar = std::move(alCambiar)};
+}
+
+DefCampo resultado(std::string nombre, std::string rotulo, std::string formato, int caracteres,
+                   Grupo* grupo) {
+    return {.nombre = std::move(nombre),
+            .rotulo = std::move(rotulo),
+            .clase = Clase::Resultado,
+            .grupo = grupo,
+            .formato = std::move(formato),
+            .anchura = caracteres};
+}
+
+DefCampo interrogacion(std::string nombre, std::string ayuda, Reaccion alPulsar) {
+    return {.nombre = std::move(nombre),
+            .rotulo = "?",
+            .clase = Clase::Boton,
+            .alPulsar = std::move(alPulsar),
+            .ayuda = std::move(ayuda),
+            .mismaLinea = true,
+            .pequeno = true};
 }
 
 DefCampo casilla(std::string nombre, std::string rotulo, Reaccion alCambiar) {

@@ -26,6 +26,17 @@ namespace orvemo {
 [[nodiscard]] DefCampo lista(std::string nombre, std::string rotulo, std::vector<std::string> opciones,
                              Reaccion alCambiar = {});
 
+/// The same, for long entries: each on a line of its own, all on view.
+[[nodiscard]] DefCampo opciones(std::string nombre, std::string rotulo, std::vector<std::string> entradas,
+                                Reaccion alCambiar = {});
+
+/// A result that only the program writes, shown by the pattern, as many characters wide.
+[[nodiscard]] DefCampo resultado(std::string nombre, std::string rotulo, std::string formato, int caracteres,
+                                 Grupo* grupo = nullptr);
+
+/// The small "?" beside a field.
+[[nodiscard]] DefCampo interrogacion(std::string nombre, std::string ayuda, Reaccion alPulsar);
+
 /// A check box, off in a new case.
 [[nodiscard]] DefCampo casilla(std::string nombre, std::string rotulo, Reaccion alCambiar = {});
 

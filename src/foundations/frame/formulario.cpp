@@ -55,6 +55,11 @@ Grupo& Formulario::nuevoGrupo(DefGrupo def) {
     return grupos_.emplace_back(*this, std::move(def));
 }
 
+DefPanel Formulario::panel(int pantalla) const {
+    const auto suyo = paneles_.find(pantalla);
+    return suyo == paneles_.end() ? DefPanel{} : suyo->second;
+}
+
 Reaccion Formulario::rango(std::string minimo, std::string maximo) {
     return [this, minimo = std::move(minimo), maximo = std::move(maximo)](Campo& campo) {
         CompruebaRango(campo, minimo, maximo, DatoMal, mensajes());
@@ -180,7 +185,7 @@ void Formulario::escribe(Campo& campo, std::string_view texto) {
 
 std::string Formulario::depura(const Campo& campo, std::string_view texto) const {
     std::string admitido{texto};
-    if (campo.def().filtro != nullptr) {
+    if (campo.def().filtro) {
         const Cambio cambio = comparaTextos(campo.texto(), texto);
         admitido = FiltraTexto(campo.def().filtro, cambio.nuevo, cambio.antes, cambio.despues);
     }
@@ -212,7 +217,7 @@ void Formulario::doblePulsa(Campo& campo) {
 }
 
 char32_t Formulario::teclea(const Campo& campo, char32_t tecla) const {
-    return campo.def().filtro == nullptr ? tecla : campo.def().filtro(tecla, campo.texto());
+    return campo.def().filtro ? campo.def().filtro(tecla, campo.texto()) : tecla;
 }
 
 // --- State
@@ -247,26 +252,34 @@ bool Formulario::protegido(const std::function<void()>& accion) {
 
 Instantanea::Instantanea(Formulario& formulario) {
     for (Campo& campo : formulario.campos()) {
-        valores_.push_back({&campo, campo.texto(), campo.opciones(), campo.rotulo(), campo.indice(),
-                            campo.marcado(), campo.visiblePropio()});
+        campos_.push_back({&campo, campo.texto(), campo.opciones(), campo.datos(), campo.grafica(),
+                           campo.rotulo(), campo.indice(), campo.pantalla(), campo.marcado(),
+                           campo.visiblePropio(), campo.activo()});
     }
+    for (Grupo& grupo : formulario.grupos()) grupos_.push_back({&grupo, grupo.titulo(), grupo.visible()});
 }
 
 void Instantanea::restaura(bool& Cargando) const {
     const MientrasCarga mientras{Cargando};
-    for (const Valores& v : valores_) {
-        const bool esLista =
-            v.campo->def().clase == Clase::Lista || v.campo->def().clase == Clase::ListaAbierta;
-        if (esLista) {
-            v.campo->ponOpciones(v.opciones);
-            v.campo->ponIndice(v.indice);
-        } else {
-            v.campo->ponTexto(v.texto);
-        }
-        v.campo->ponMarcado(v.marcado);
-        v.campo->ponRotulo(v.rotulo);
-        v.campo->ponVisible(v.visible);
+    for (const EstadoCampo& estado : campos_) estado.restaura();
+    for (const EstadoGrupo& estado : grupos_) {
+        estado.grupo->ponTitulo(estado.titulo);
+        estado.grupo->ponVisible(estado.visible);
     }
+}
+
+void Instantanea::EstadoCampo::restaura() const {
+    if (campo->esLista()) {
+        campo->rellena(opciones, datos, indice);
+    } else {
+        campo->ponTexto(texto);
+    }
+    campo->ponMarcado(marcado);
+    campo->ponGrafica(grafica);
+    campo->ponRotulo(rotulo);
+    campo->ponPantalla(pantalla);
+    campo->ponVisible(visible);
+    campo->ponActivo(activo);
 }
 
 }  // namespace orvemo

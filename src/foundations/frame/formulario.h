@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +34,8 @@ class Formulario {
     [[nodiscard]] const std::deque<Campo>& campos() const { return campos_; }
     [[nodiscard]] std::deque<Campo>& campos() { return campos_; }
     [[nodiscard]] const std::deque<Grupo>& grupos() const { return grupos_; }
+    [[nodiscard]] std::deque<Grupo>& grupos() { return grupos_; }
+    [[nodiscard]] DefPanel panel(int pantalla) const;
     /// Heading within the screen.
     [[nodiscard]] const std::string& Titulo() const { return titulo_; }
     /// Caption of the window.
@@ -75,6 +78,7 @@ class Formulario {
 
     Campo& nuevo(DefCampo def);
     Grupo& nuevoGrupo(DefGrupo def);
+    void ponPanel(int pantalla, DefPanel def) { paneles_[pantalla] = def; }
     /// Check on leaving: `CompruebaRango` with these limits.
     [[nodiscard]] Reaccion rango(std::string minimo, std::string maximo);
     /// Check on leaving: `CompruebaFecha`.
@@ -121,6 +125,7 @@ class Formulario {
     Vista* vista_ = nullptr;
     std::deque<Campo> campos_;
     std::deque<Grupo> grupos_;
+    std::map<int, DefPanel> paneles_;
     std::string titulo_, caption_, subtitulo_;
     int PantallaActual_ = 0;
     int numPantallas_ = 1;
@@ -130,24 +135,36 @@ class Formulario {
     bool oculto_ = false;
 };
 
-/// The values that the fields of a form hold at one moment, to go back to.
+/// What the fields and groups of a form hold and show at one moment, to go back to.
 class Instantanea {
   public:
     explicit Instantanea(Formulario& formulario);
-    /// Puts every field back as it was, without reactions.
+    /// Puts every field and group back as it was, without reactions.
     void restaura(bool& Cargando) const;
 
   private:
-    struct Valores {
+    struct EstadoCampo {
         Campo* campo;
         std::string texto;
         std::vector<std::string> opciones;
+        std::vector<std::int64_t> datos;
+        Grafica grafica;
         std::string rotulo;
         int indice;
+        int pantalla;
         bool marcado;
         bool visible;
+        bool activo;
+
+        void restaura() const;
     };
-    std::vector<Valores> valores_;
+    struct EstadoGrupo {
+        Grupo* grupo;
+        std::string titulo;
+        bool visible;
+    };
+    std::vector<EstadoCampo> campos_;
+    std::vector<EstadoGrupo> grupos_;
 };
 
 /// Raises `Cargando` while it lives and lowers it at the end, whatever happens in between.

@@ -53,7 +53,7 @@ char32_t TeclaMayuscula(char32_t codigo, std::string_view /*texto*/) {
     }
 }
 
-std::string FiltraTexto(FiltroTecla filtro, std::string_view texto, std::string_view antes,
+std::string FiltraTexto(const FiltroTecla& filtro, std::string_view texto, std::string_view antes,
                         std::string_view despues) {
     const std::string cola{despues};
     std::string filtrado{antes};

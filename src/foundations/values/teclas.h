@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -7,7 +8,7 @@ namespace orvemo {
 
 /// What becomes of a typed character, given the field's whole present text: the character to insert, 0 when
 /// it is swallowed.
-using FiltroTecla = char32_t (*)(char32_t codigo, std::string_view texto);
+using FiltroTecla = std::function<char32_t(char32_t codigo, std::string_view texto)>;
 
 /// Control keys and digits.
 [[nodiscard]] char32_t TeclaDigito(char32_t codigo, std::string_view texto = {});
@@ -20,7 +21,7 @@ using FiltroTecla = char32_t (*)(char32_t codigo, std::string_view texto);
 
 /// A text (typed, pasted, dictated) sent through the filter character by character, as if typed between what
 /// stands before and behind it: gives all three together.
-[[nodiscard]] std::string FiltraTexto(FiltroTecla filtro, std::string_view texto, std::string_view antes = {},
-                                      std::string_view despues = {});
+[[nodiscard]] std::string FiltraTexto(const FiltroTecla& filtro, std::string_view texto,
+                                      std::string_view antes = {}, std::string_view despues = {});
 
 }  // namespace orvemo

@@ -58,7 +58,7 @@ PensionFrm::PensionFrm(Entorno& entorno)
       JubiRedJor{nuevo({.nombre = "JubiRedJor",
                         .rotulo = "% Reducción de Jornada:",
                         .defecto = "0",
-                        .filtro = TeclaNumero,
+                        .contenido = Contenido::Decimal,
                         .visible = false})},
       JubiConyuge{
           nuevo({.nombre = "JubiConyuge", .rotulo = "Tiene cónyuge que mantener", .clase = Clase::Casilla})},
@@ -71,7 +71,7 @@ PensionFrm::PensionFrm(Entorno& entorno)
           nuevo({.nombre = "JubiBaseActual",
                  .rotulo = "Base Mensual Actual de cotización (para estimar bases futuras):",
                  .defecto = "0",
-                 .filtro = TeclaNumero,
+                 .contenido = Contenido::Decimal,
                  .formato = kFormatoBase,
                  .alSalir = [this](Campo& base) { compruebaImporte(base, kMaximaBaseActual, "999,999"); },
                  .visible = false})},
@@ -89,7 +89,7 @@ PensionFrm::PensionFrm(Entorno& entorno)
                  .rotulo = "Suma ponderada de las bases de cotización:",
                  .pantalla = kModoBases,
                  .defecto = "0",
-                 .filtro = TeclaNumero,
+                 .contenido = Contenido::Decimal,
                  .formato = "##,###,##0.00",
                  .alSalir = [this](Campo& suma) { compruebaImporte(suma, kMaximaSuma, "99,999,999"); }})},
       bases_{nuevasBases()} {}
@@ -99,7 +99,7 @@ Campo& PensionFrm::nuevasHoras(std::string nombre, std::string rotulo) {
                   .rotulo = std::move(rotulo),
                   .pantalla = kPeriodos,
                   .defecto = "0",
-                  .filtro = TeclaNumero});
+                  .contenido = Contenido::Decimal});
 }
 
 PensionFrm::FilaPeriodo PensionFrm::nuevaFila(Grupo& grupo, int fila) {

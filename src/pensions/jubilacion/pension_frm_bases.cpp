@@ -41,7 +41,7 @@ std::vector<Campo*> PensionFrm::nuevasBases() {
                                 .pantalla = pantalla,
                                 .grupo = marco,
                                 .defecto = "0",
-                                .filtro = TeclaNumero,
+                                .contenido = Contenido::Decimal,
                                 .formato = kFormatoBase,
                                 .alSalir = [this, i](Campo&) { dejaBase(i); },
                                 .alEscribir = [this](Campo&) { BaseEditada_ = true; },
