@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "cases/diario.h"
 #include "cases/registro.h"
 #include "foundations/values/numeros.h"
 
@@ -48,31 +49,6 @@ std::optional<int> buscaCabecera(FicheroAleatorio& fichero, std::size_t longitud
     return std::nullopt;
 }
 
-/// What stands where a record is about to be written.
-class LoAnterior {
-  public:
-    LoAnterior(FicheroAleatorio& fichero, std::uint64_t posicion, std::size_t ancho)
-        : fichero_{fichero}, posicion_{posicion}, longitud_{fichero.longitud()}, bytes_(ancho, '\0') {
-        bytes_.resize(fichero.lee(posicion, bytes_));
-    }
-
-    /// Puts it back and gives whether it stands there again. The bytes first and then the file's length: a
-    /// case half written at the end would pass for a whole one.
-    bool repone() {
-        if (!bytes_.empty()) fichero_.escribe(posicion_, bytes_);
-        if (fichero_.longitud() != longitud_) fichero_.corta(longitud_);
-        std::string ahora(bytes_.size(), '\0');
-        fichero_.lee(posicion_, ahora);
-        return ahora == bytes_ && fichero_.longitud() == longitud_;
-    }
-
-  private:
-    FicheroAleatorio& fichero_;
-    std::uint64_t posicion_;
-    std::uint64_t longitud_;
-    std::string bytes_;
-};
-
 }  // namespace
 
 DemasiadosSupuestos::DemasiadosSupuestos(const std::string& fichero, int registros)
@@ -95,24 +71,36 @@ int ArchivoSupuestos::cuenta(FicheroAleatorio& fichero) const {
 }
 
 int ArchivoSupuestos::cuenta() const {
-    return cuenta(*almacen_.abre(nombre_, Acceso::Lectura));
+    return cuenta(*abre(Acceso::Lectura));
 }
 
-std::string ArchivoSupuestos::lee(int r) const {
-    std::string bytes(longitud_, '\0');
-    almacen_.abre(nombre_, Acceso::Lectura)->lee(posicion(r), bytes);
+std::unique_ptr<FicheroAleatorio> ArchivoSupuestos::abre(Acceso acceso) const {
+    Diario{almacen_, nombre_}.recupera();
+    return almacen_.abre(nombre_, acceso);
+}
+
+std::string ArchivoSupuestos::leeEntero(int r, std::size_t ancho) const {
+    std::string bytes(ancho, '\0');
+    if (r > kMaxRegistros || abre(Acceso::Lectura)->lee(posicion(r), bytes) < ancho) throw falta(r);
     return bytes;
 }
 
+FicheroInaccesible ArchivoSupuestos::falta(int r) const {
+    return {nombre_, "el registro " + std::to_string(r) + " falta o no está entero"};
+}
+
+std::string ArchivoSupuestos::lee(int r) const {
+    return leeEntero(r, longitud_);
+}
+
 std::optional<EntradaSupuesto> ArchivoSupuestos::entrada(int r) const {
-    std::string cabecera(kAnchoCabecera, '\0');
-    almacen_.abre(nombre_, Acceso::Lectura)->lee(posicion(r), cabecera);
+    const std::string cabecera = leeEntero(r, kAnchoCabecera);
     if (esLibre(cabecera)) return std::nullopt;
     return EntradaSupuesto{r, nombreSupuesto(cabecera)};
 }
 
 std::vector<EntradaSupuesto> ArchivoSupuestos::lista() const {
-    const auto fichero = almacen_.abre(nombre_, Acceso::Lectura);
+    const auto fichero = abre(Acceso::Lectura);
     std::vector<EntradaSupuesto> entradas;
     buscaCabecera(*fichero, longitud_, cuenta(*fichero), [&](int r, std::string_view cabecera) {
         if (!esLibre(cabecera)) entradas.push_back({r, nombreSupuesto(cabecera)});
@@ -123,7 +111,7 @@ std::vector<EntradaSupuesto> ArchivoSupuestos::lista() const {
 
 int ArchivoSupuestos::agrega(std::string bytes) {
     bytes.front() = kRegistroEnUso;
-    const auto fichero = almacen_.abre(nombre_, Acceso::Escritura);
+    const auto fichero = abre(Acceso::Escritura);
     const int registros = cuenta(*fichero);
     const auto libre = buscaCabecera(*fichero, longitud_, registros,
                                      [](int, std::string_view cabecera) { return esLibre(cabecera); });
@@ -135,7 +123,7 @@ int ArchivoSupuestos::agrega(std::string bytes) {
 
 void ArchivoSupuestos::agregaTodos(std::span<const std::string> registros) {
     if (registros.empty()) return;
-    const auto fichero = almacen_.abre(nombre_, Acceso::Escritura);
+    const auto fichero = abre(Acceso::Escritura);
     int cuantos = cuenta(*fichero);
     std::string contenido(static_cast<std::size_t>(cuantos) * longitud_, '\0');
     fichero->lee(0, contenido);
@@ -153,12 +141,15 @@ void ArchivoSupuestos::agregaTodos(std::span<const std::string> registros) {
 
 void ArchivoSupuestos::sobrescribe(int r, std::string bytes) {
     bytes.front() = kRegistroEnUso;
-    escribeEntero(*almacen_.abre(nombre_, Acceso::Escritura), r, bytes);
+    const auto fichero = abre(Acceso::Escritura);
+    // The file may have gone or shrunk since the record was chosen; past its end there's room for one more.
+    if (r > cuenta(*fichero) + 1) throw falta(r);
+    escribeEntero(*fichero, r, bytes);
 }
 
 std::optional<int> ArchivoSupuestos::sobrescribePorNombre(std::string bytes) {
     bytes.front() = kRegistroEnUso;
-    const auto fichero = almacen_.abre(nombre_, Acceso::Escritura);
+    const auto fichero = abre(Acceso::Escritura);
     const std::string_view buscado = std::string_view{bytes}.substr(0, kPosicionNombre + kAnchoNombre);
     const auto encontrado =
         buscaCabecera(*fichero, longitud_, cuenta(*fichero),
@@ -170,13 +161,20 @@ std::optional<int> ArchivoSupuestos::sobrescribePorNombre(std::string bytes) {
 void ArchivoSupuestos::borra(int r) {
     std::string cabecera(kAnchoCabecera, ' ');
     cabecera.front() = kRegistroLibre;
-    escribeEntero(*almacen_.abre(nombre_, Acceso::Escritura), r, cabecera);
+    const auto fichero = abre(Acceso::Escritura);
+    if (r > cuenta(*fichero)) throw falta(r);
+    escribeEntero(*fichero, r, cabecera);
 }
 
 void ArchivoSupuestos::escribeEntero(FicheroAleatorio& fichero, int r, std::string_view bytes) const {
-    LoAnterior anterior{fichero, posicion(r), bytes.size()};
-    if (fichero.escribe(posicion(r), bytes) == bytes.size()) return;
-    throw FicheroInaccesible{nombre_, anterior.repone() ? kSinSitio : kAMedias};
+    const LoAnterior anterior = LoAnterior::de(fichero, posicion(r), bytes.size());
+    Diario diario{almacen_, nombre_};
+    diario.anota(anterior);
+    const bool escrito = fichero.escribe(posicion(r), bytes) == bytes.size();
+    const bool repuesto = !escrito && anterior.repone(fichero);
+    // What could not be put back now waits in the journal for the next opening.
+    if (escrito || repuesto) diario.borra();
+    if (!escrito) throw FicheroInaccesible{nombre_, repuesto ? kSinSitio : kAMedias};
 }
 
 }  // namespace orvemo

@@ -40,7 +40,8 @@ struct EntradaSupuesto {
 /// The cases of one calculator: records of one length, numbered from 1, in a file of the application
 /// directory. Nothing stays open between calls. A file that can't be opened, read or written throws
 /// FicheroInaccesible; more records than kMaxRegistros throw DemasiadosSupuestos. A write that fails puts
-/// back what stood there before.
+/// back what stood there before, and one cut off by the program's end is put back when the file is opened
+/// next.
 class ArchivoSupuestos {
   public:
     /// Records of `longitud` bytes, at least kAnchoCabecera of them.
@@ -53,10 +54,11 @@ class ArchivoSupuestos {
     /// half.
     [[nodiscard]] int cuenta() const;
 
-    /// The bytes of record r; those beyond the end of the file are NUL.
+    /// The bytes of record r. Throws FicheroInaccesible for one that isn't there whole.
     [[nodiscard]] std::string lee(int r) const;
 
-    /// The case of record r; nullopt for a free slot. Nothing past the head is looked at.
+    /// The case of record r; nullopt for a free slot. Nothing past the head is looked at, but that must be
+    /// there.
     [[nodiscard]] std::optional<EntradaSupuesto> entrada(int r) const;
 
     /// The cases in use in the order of their records; nothing past the heads is looked at.
@@ -69,7 +71,7 @@ class ArchivoSupuestos {
     /// anything fails, none.
     void agregaTodos(std::span<const std::string> registros);
 
-    /// Writes a whole record, in use, over record r (from 1).
+    /// Writes a whole record, in use, over record r (from 1), which may be the one after the last.
     void sobrescribe(int r, std::string bytes);
 
     /// Writes over the first record in use whose 80 bytes of `NombreSupuesto` are those of `bytes`; nullopt,
@@ -80,6 +82,10 @@ class ArchivoSupuestos {
     void borra(int r);
 
   private:
+    [[nodiscard]] std::unique_ptr<FicheroAleatorio> abre(Acceso acceso) const;
+    /// So many bytes of record r from its first.
+    [[nodiscard]] std::string leeEntero(int r, std::size_t ancho) const;
+    [[nodiscard]] FicheroInaccesible falta(int r) const;
     [[nodiscard]] std::uint64_t posicion(int r) const;
     [[nodiscard]] int cuenta(FicheroAleatorio& fichero) const;
     void escribeEntero(FicheroAleatorio& fichero, int r, std::string_view bytes) const;

@@ -22,9 +22,9 @@ struct Miembro;
 /// The layout of a record or of a member, without its types: enough to tell its bytes by name.
 struct Forma {
     Naturaleza naturaleza;
-    std::size_t ancho;                     ///< bytes in all
-    const Forma* elemento = nullptr;       ///< of a list
-    std::span<const Miembro> miembros{};   ///< of a set, in the order of their bytes
+    std::size_t ancho;                    ///< bytes in all
+    const Forma* elemento = nullptr;      ///< of a list
+    std::span<const Miembro> miembros{};  ///< of a set, in the order of their bytes
 };
 
 struct Miembro {

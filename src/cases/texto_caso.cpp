@@ -236,7 +236,8 @@ std::string leeLista(const std::string& campo, const Forma& forma, const ValorDe
     std::string bytes;
     for (const ValorDeCampo& elemento : lista) {
         const std::size_t i = bytes.size() / forma.elemento->ancho;
-        bytes += leeValor(campo + '[' + TextoPlano(static_cast<double>(i + 1)) + ']', *forma.elemento, elemento);
+        bytes +=
+            leeValor(campo + '[' + TextoPlano(static_cast<double>(i + 1)) + ']', *forma.elemento, elemento);
     }
     return bytes;
 }

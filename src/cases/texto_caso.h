@@ -11,8 +11,8 @@
 
 namespace orvemo {
 
-// The text form of a record: its members by name. Whatever bytes a record holds, even damaged ones, their text
-// form gives back the same bytes:
+// The text form of a record: its members by name. Whatever bytes a record holds, even damaged ones, their
+// text form gives back the same bytes:
 //
 // - a text goes without the blanks at its end; one never written (NUL throughout) is null, and a NUL or any
 //   other control within a text stays as the character that it is;

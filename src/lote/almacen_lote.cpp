@@ -38,12 +38,16 @@ std::unique_ptr<FicheroAleatorio> AlmacenLote::abre(std::string_view nombre, Acc
     return datos_.abre(nombre, acceso);
 }
 
-std::string AlmacenLote::leeTodo(std::string_view nombre) const {
-    return datos_.leeTodo(nombre);
+std::string AlmacenLote::leeHasta(std::string_view nombre, std::size_t maximo) const {
+    return datos_.leeHasta(nombre, maximo);
 }
 
 void AlmacenLote::sustituye(std::string_view nombre, std::string_view contenido) {
     datos_.sustituye(nombre, contenido);
+}
+
+bool AlmacenLote::elimina(std::string_view nombre) {
+    return datos_.elimina(nombre);
 }
 
 std::filesystem::path AlmacenLote::ruta(std::string_view nombre) const {

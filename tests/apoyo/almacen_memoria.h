@@ -18,9 +18,14 @@ namespace orvemo::pruebas {
 
 /// A disk that fails in the middle of a write.
 struct Averia {
-    std::uint64_t bytes;    ///< the first write longer than this stops here
-    bool duradera = false;  ///< from then on nothing more can be written nor cut; otherwise all is well again
+    std::uint64_t bytes;  ///< taken before the failure, in whatever files
+    bool duradera =
+        false;            ///< from then on nothing more can be written, cut or removed; otherwise all is well
+    bool mortal = false;  ///< the program ends there: Muerte is thrown
 };
+
+/// The end of the program in mid operation; nobody catches it.
+struct Muerte {};
 
 /// An application directory in memory that can be made to fail: read-only, unreadable, full after so many
 /// bytes, or broken in mid write.
@@ -54,9 +59,11 @@ class AlmacenMemoria final : public Almacen {
         return std::make_unique<Abierto>(*this, std::string{nombre}, bytes);
     }
 
-    [[nodiscard]] std::string leeTodo(std::string_view nombre) const override {
+    [[nodiscard]] std::string leeHasta(std::string_view nombre, std::size_t maximo) const override {
         const auto encontrado = ficheros.find(clave(nombre));
         if (encontrado == ficheros.end()) throw FicheroInaccesible{std::string{nombre}, "no existe"};
+        if (encontrado->second.size() > maximo)
+            throw FicheroInaccesible{std::string{nombre}, "es demasiado grande"};
         return encontrado->second;
     }
 
@@ -65,6 +72,13 @@ class AlmacenMemoria final : public Almacen {
             throw FicheroInaccesible{std::string{nombre}, "no se puede escribir"};
         }
         ficheros[clave(nombre)] = contenido;
+    }
+
+    bool elimina(std::string_view nombre) override {
+        if (soloLectura || rota()) return false;
+        if (averia && averia->mortal && averia->bytes == 0) throw Muerte{};
+        ficheros.erase(clave(nombre));
+        return true;
     }
 
     [[nodiscard]] std::filesystem::path ruta(std::string_view nombre) const override {
@@ -84,9 +98,11 @@ class AlmacenMemoria final : public Almacen {
         }
         std::size_t escribe(std::uint64_t posicion, std::span<const char> origen) override {
             const std::uint64_t cabe = almacen_.admite(origen.size(), posicion, bytes_.size());
+            if (cabe == 0 && almacen_.averia && almacen_.averia->mortal) throw Muerte{};
             if (cabe == 0) return 0;
             if (posicion + cabe > bytes_.size()) bytes_.resize(posicion + cabe, '\0');
             std::copy_n(origen.begin(), cabe, bytes_.begin() + static_cast<std::ptrdiff_t>(posicion));
+            if (cabe < origen.size() && almacen_.averia && almacen_.averia->mortal) throw Muerte{};
             return cabe;
         }
         bool corta(std::uint64_t nueva) override {
@@ -106,13 +122,10 @@ class AlmacenMemoria final : public Almacen {
 
     /// How many of `bytes` the present breakdown lets through.
     std::uint64_t seCorta(std::uint64_t bytes) {
-        if (!averia || bytes <= averia->bytes) return bytes;
-        const std::uint64_t escritos = averia->bytes;
-        if (averia->duradera) {
-            averia->bytes = 0;
-        } else {
-            averia.reset();
-        }
+        if (!averia) return bytes;
+        const std::uint64_t escritos = std::min(bytes, averia->bytes);
+        averia->bytes -= escritos;
+        if (escritos < bytes && !averia->duradera && !averia->mortal) averia.reset();
         return escritos;
     }
 

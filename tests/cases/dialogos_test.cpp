@@ -205,7 +205,7 @@ TEST_F(DialogosTest, AFailedErasureIsToldAndTheDialogStays) {
     conCasos({"uno", "dos"});
     carga.Inicia();
     carga.selecciona(0);
-    almacen.averia = {.bytes = 80};
+    almacen.averia = {.bytes = 300};  // the journal has gone through
     respondeSi();
     carga.BotonBorrar();
     EXPECT_THAT(mensajes.dichos,

@@ -61,37 +61,87 @@ const Escritura kEscrituras[] = {
     {"erasing", kTres, kAnchoCabecera, [](ArchivoSupuestos& a) { a.borra(2); }},
 };
 
+/// "desemp.nom" before an operation, and what the operation makes of it on a sound disk.
+struct Ensayo {
+    explicit Ensayo(const Escritura& escritura) : antes{escritura.fichero} {
+        FicheroDePrueba sano;
+        sano.bytes() = antes;
+        sano.almacen.averia = {.bytes = kHolgura};
+        escritura.opera(sano.archivo);
+        total = kHolgura - sano.almacen.averia->bytes;
+        despues = sano.bytes();
+        EXPECT_EQ(sano.almacen.ficheros.size(), 1U) << "a finished operation leaves no journal";
+    }
+
+    static constexpr std::uint64_t kHolgura = 1 << 20;
+    std::string antes;
+    std::string despues;
+    std::uint64_t total = 0;  ///< bytes written, those of the journal too
+};
+
 TEST(EscriturasFallidas, AWriteThatStopsOnceLeavesTheFileAsItWas) {
     for (const Escritura& escritura : kEscrituras) {
-        for (std::size_t byte = 0; byte < escritura.bytes; ++byte) {
+        const Ensayo ensayo{escritura};
+        std::size_t fallidas = 0;
+        for (std::uint64_t byte = 0; byte < ensayo.total; ++byte) {
             FicheroDePrueba prueba;
-            prueba.bytes() = escritura.fichero;
+            prueba.bytes() = ensayo.antes;
             prueba.almacen.averia = {.bytes = byte};
-            ASSERT_EQ(fallo([&] { escritura.opera(prueba.archivo); }), kComoEstaba)
+            const std::string mensaje = fallo([&] { escritura.opera(prueba.archivo); });
+            if (!mensaje.empty()) ++fallidas;
+            ASSERT_EQ(mensaje, mensaje.empty() ? "" : kComoEstaba) << escritura.titulo << ", byte " << byte;
+            ASSERT_EQ(prueba.bytes(), mensaje.empty() ? ensayo.despues : ensayo.antes)
                 << escritura.titulo << ", byte " << byte;
-            ASSERT_EQ(prueba.bytes(), escritura.fichero) << escritura.titulo << ", byte " << byte;
-            ASSERT_EQ(fallo([&] { escritura.opera(prueba.archivo); }), "") << "and all works again";
+            ASSERT_EQ(prueba.almacen.ficheros.size(), 1U) << "no journal stays";
+        }
+        EXPECT_EQ(fallidas, escritura.bytes) << "without its journal the operation goes on";
+    }
+}
+
+TEST(EscriturasFallidas, ADiskThatStaysBrokenIsToldAndTheNextOpeningPutsTheOldRecordBack) {
+    for (const Escritura& escritura : kEscrituras) {
+        const Ensayo ensayo{escritura};
+        for (std::uint64_t byte = 0; byte < ensayo.total; ++byte) {
+            FicheroDePrueba prueba;
+            prueba.bytes() = ensayo.antes;
+            prueba.almacen.averia = {.bytes = byte, .duradera = true};
+            const std::string mensaje = fallo([&] { escritura.opera(prueba.archivo); });
+            ASSERT_EQ(mensaje, prueba.bytes() == ensayo.antes ? kComoEstaba : kPuedeEstarDanado);
+            prueba.almacen.averia.reset();
+            (void)prueba.archivo.cuenta();
+            ASSERT_EQ(prueba.bytes(), ensayo.antes) << escritura.titulo << ", byte " << byte;
+            ASSERT_EQ(prueba.almacen.ficheros.size(), 1U);
         }
     }
 }
 
-TEST(EscriturasFallidas, ADiskThatStaysBrokenIsToldAndTheOtherRecordsStay) {
-    for (std::size_t byte = 0; byte < kLongitud; ++byte) {
-        FicheroDePrueba prueba;
-        prueba.bytes() = kTres;
-        prueba.almacen.averia = {.bytes = byte, .duradera = true};
-        const std::string mensaje = fallo([&] { prueba.archivo.sobrescribe(2, kNuevo); });
-        // The first 161 bytes of the new record are those of the old: till there nothing changed.
-        ASSERT_EQ(mensaje, byte <= kAnchoCabecera ? kComoEstaba : kPuedeEstarDanado) << "byte " << byte;
-        ASSERT_EQ(prueba.bytes().substr(0, kLongitud), registro("uno"));
-        ASSERT_EQ(prueba.bytes().substr(2 * kLongitud), registro("tres"));
+// The program was killed while it wrote over a case, which was left half old and half new.
+TEST(EscriturasFallidas, AProgramThatEndsAtAnyByteLeavesTheOldRecordOrTheNew) {
+    for (const Escritura& escritura : kEscrituras) {
+        const Ensayo ensayo{escritura};
+        for (std::uint64_t byte = 0; byte <= ensayo.total; ++byte) {
+            FicheroDePrueba prueba;
+            prueba.bytes() = ensayo.antes;
+            prueba.almacen.averia = {.bytes = byte, .mortal = true};
+            ASSERT_THROW(escritura.opera(prueba.archivo), pruebas::Muerte) << escritura.titulo << byte;
+            prueba.almacen.averia.reset();
+            (void)prueba.archivo.cuenta();
+            ASSERT_EQ(prueba.bytes(), ensayo.antes) << escritura.titulo << ", byte " << byte;
+            ASSERT_EQ(prueba.almacen.ficheros.size(), 1U);
+        }
     }
+}
+
+TEST(EscriturasFallidas, AJournalTouchesNoOtherFilePutInThePlaceOfItsOwn) {
     FicheroDePrueba prueba;
     prueba.bytes() = kTres;
-    prueba.almacen.averia = {.bytes = 1, .duradera = true};
-    EXPECT_EQ(fallo([&] { prueba.archivo.agrega(kNuevo); }), kPuedeEstarDanado)
-        << "the file can't be cut back";
-    EXPECT_EQ(prueba.archivo.cuenta(), 3);
+    prueba.almacen.averia = {.bytes = kLongitud + 100, .mortal = true};
+    ASSERT_THROW(prueba.archivo.sobrescribe(2, kNuevo), pruebas::Muerte);
+    prueba.almacen.averia.reset();
+    const std::string copia = kTres + registro("cuatro");
+    prueba.bytes() = copia;
+    EXPECT_EQ(prueba.archivo.cuenta(), 4);
+    EXPECT_EQ(prueba.bytes(), copia);
 }
 
 TEST(EscriturasFallidas, AFullDiskTakesNoNewCaseButLetsOldOnesChange) {

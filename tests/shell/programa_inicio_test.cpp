@@ -193,10 +193,11 @@ class AlmacenQueFalla final : public Almacen {
         if (lecturas_ < 0) throw FicheroInaccesible{std::string{nombre}, "no se puede abrir"};
         return std::make_unique<Abierto>(almacen_.abre(nombre, acceso), lecturas_);
     }
-    [[nodiscard]] std::string leeTodo(std::string_view nombre) const override {
-        return almacen_.leeTodo(nombre);
+    [[nodiscard]] std::string leeHasta(std::string_view nombre, std::size_t maximo) const override {
+        return almacen_.leeHasta(nombre, maximo);
     }
     void sustituye(std::string_view, std::string_view) override {}
+    bool elimina(std::string_view) override { return false; }
     [[nodiscard]] std::filesystem::path ruta(std::string_view nombre) const override {
         return almacen_.ruta(nombre);
     }

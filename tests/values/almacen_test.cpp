@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -179,15 +180,45 @@ TEST_F(EnDirectorio, WhatCannotBeCreatedReadsAsEmptyAndWritingSaysWhy) {
     }
 }
 
-TEST_F(EnDirectorio, ADirectoryOfThatNameIsNoFile) {
-    fs::create_directory(carpeta / "caso.nom");
+// A pipe in the place of a file was waited for without end.
+TEST_F(EnDirectorio, WhatIsNoFileIsRefusedAndSaysWhatItIs) {
+    fs::create_directory(carpeta / "carpeta.nom");
+    ASSERT_EQ(0, mkfifo((carpeta / "fifo.nom").c_str(), 0600));
+    fs::create_symlink("/dev/zero", carpeta / "cero.nom");
+    fs::create_symlink("bucle.nom", carpeta / "bucle.nom");
+    const std::vector<std::string> antes = ficheros();
     DirectorioAplicacion directorio{carpeta};
-    const std::string esperado = noSePuedeUsar("caso.nom", "es una carpeta");
-    EXPECT_EQ(esperado, fallo([&] { (void)directorio.abre("caso.nom", Acceso::Lectura); }));
-    EXPECT_EQ(esperado, fallo([&] { (void)directorio.abre("caso.nom", Acceso::Escritura); }));
-    EXPECT_EQ(esperado, fallo([&] { (void)directorio.leeTodo("caso.nom"); }));
-    EXPECT_EQ(esperado, fallo([&] { directorio.sustituye("caso.nom", "x"); }));
-    EXPECT_EQ((std::vector<std::string>{"caso.nom"}), ficheros());
+    struct {
+        const char* nombre;
+        const char* motivo;
+    } const casos[] = {{"carpeta.nom", "es una carpeta"},
+                       {"fifo.nom", "es una tubería"},
+                       {"cero.nom", "es un dispositivo"},
+                       {"bucle.nom", "sus enlaces dan vueltas sin fin"}};
+    for (const auto& [nombre, motivo] : casos) {
+        const std::string esperado = noSePuedeUsar(nombre, motivo);
+        EXPECT_EQ(esperado, fallo([&] { (void)directorio.abre(nombre, Acceso::Lectura); }));
+        EXPECT_EQ(esperado, fallo([&] { (void)directorio.abre(nombre, Acceso::Escritura); }));
+        EXPECT_EQ(esperado, fallo([&] { (void)directorio.leeTodo(nombre); }));
+        EXPECT_EQ(esperado, fallo([&] { directorio.sustituye(nombre, "x"); }));
+        EXPECT_EQ(esperado, fallo([&] { (void)AbreParaLeer(carpeta / nombre); }));
+    }
+    EXPECT_EQ(antes, ficheros());
+    ASSERT_EQ(0, mkfifo((carpeta / "config.nom.nuevo").c_str(), 0600));
+    EXPECT_EQ(noSePuedeUsar("config.nom", "config.nom.nuevo es una tubería"),
+              fallo([&] { directorio.sustituye("config.nom", "x"); }));
+}
+
+// An index of 10 GB without a byte in it took all the memory.
+TEST_F(EnDirectorio, AFileReadWholeHasABound) {
+    pon("ipc.txt", "x");
+    fs::resize_file(carpeta / "ipc.txt", std::uintmax_t{10} << 30);
+    pon("justo", std::string(kMaximoTexto, 'x'));
+    const DirectorioAplicacion directorio{carpeta};
+    EXPECT_EQ(noSePuedeUsar("ipc.txt", "es demasiado grande para lo que debe contener"),
+              fallo([&] { (void)directorio.leeTodo("ipc.txt"); }));
+    EXPECT_EQ(kMaximoTexto, directorio.leeTodo("justo").size());
+    EXPECT_THROW((void)directorio.leeHasta("justo", kMaximoTexto - 1), FicheroInaccesible);
 }
 
 TEST_F(EnDirectorio, AFileThatCannotBeReadIsNotTakenForEmpty) {
@@ -200,9 +231,7 @@ TEST_F(EnDirectorio, AFileThatCannotBeReadIsNotTakenForEmpty) {
 }
 
 TEST_F(EnDirectorio, AFullDiskShowsInTheBytesWritten) {
-    fs::create_symlink("/dev/full", carpeta / "lleno.nom");
     DirectorioAplicacion directorio{carpeta};
-    EXPECT_EQ(0U, directorio.abre("lleno.nom", Acceso::Escritura)->escribe(0, std::string{"abcd"}));
     const std::string registro = "0123456789";
     for (std::size_t caben = 0; caben <= registro.size(); ++caben) {
         const auto fichero = directorio.abre("caso" + std::to_string(caben), Acceso::Escritura);

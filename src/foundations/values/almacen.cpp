@@ -1,9 +1,11 @@
 #include "foundations/values/almacen.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
-#include <fstream>
-#include <ios>
 #include <system_error>
 #include <utility>
 
@@ -29,6 +31,7 @@ constexpr Motivo kMotivos[] = {
     {std::errc::is_a_directory, "es una carpeta"},
     {std::errc::no_space_on_device, "el disco está lleno"},
     {std::errc::file_too_large, "no cabe en el disco"},
+    {std::errc::too_many_symbolic_link_levels, "sus enlaces dan vueltas sin fin"},
     {std::errc::filename_too_long, "el nombre es demasiado largo"},
     {std::errc::too_many_files_open, "hay demasiados ficheros abiertos"},
     {std::errc::text_file_busy, "otro programa lo está usando"},
@@ -43,7 +46,6 @@ std::string motivo(const std::error_code& error, const char* otro) {
     return conocido == std::end(kMotivos) ? otro : conocido->texto;
 }
 
-/// The system's last error: the streams of the library tell no more than that they failed.
 std::error_code errorDelSistema() {
     return {errno, std::generic_category()};
 }
@@ -52,40 +54,103 @@ std::error_code errorDelSistema() {
     throw FicheroInaccesible{ruta.filename().string(), porque};
 }
 
-bool esCarpeta(const fs::path& ruta) {
-    std::error_code error;
-    return fs::is_directory(ruta, error);
-}
-
 bool existeAlgo(const fs::path& ruta) {
     std::error_code error;
     return fs::exists(ruta, error);
 }
 
-/// Opens a file without a buffer: what is written goes to the disk at once, and what fails is known at once.
-std::fstream abreFlujo(const fs::path& ruta, std::ios::openmode modo) {
-    std::fstream flujo;
-    flujo.rdbuf()->pubsetbuf(nullptr, 0);
-    errno = 0;
-    flujo.open(ruta, modo | std::ios::binary);
-    return flujo;
+/// What stands where a file should, when it is something else; null for a file.
+const char* otraCosa(mode_t modo) {
+    if (S_ISREG(modo)) return nullptr;
+    if (S_ISDIR(modo)) return "es una carpeta";
+    if (S_ISFIFO(modo)) return "es una tubería";
+    return "es un dispositivo";
 }
 
-void exigeQueNoSeaCarpeta(const fs::path& ruta) {
-    if (esCarpeta(ruta)) rechaza(ruta, "es una carpeta");
-}
+/// An open file of the disk. Nothing is buffered: what is written goes to the system at once, and what fails
+/// is known at once. Only files are opened: a pipe in the place of one would be waited for without end.
+class Descriptor {
+  public:
+    Descriptor(const fs::path& ruta, int modo)
+        : fd_{::open(ruta.c_str(), modo | O_CLOEXEC | O_NONBLOCK, 0666)}, error_{fd_ < 0 ? errno : 0} {
+        struct stat datos {};
+        // What can't be opened for lack of a reader or of a device says what it is all the same.
+        const bool hay = (fd_ < 0 ? ::stat(ruta.c_str(), &datos) : ::fstat(fd_, &datos)) == 0;
+        if (hay) otraCosa_ = otraCosa(datos.st_mode);
+    }
+    Descriptor(Descriptor&& otro) noexcept
+        : fd_{std::exchange(otro.fd_, -1)}, error_{otro.error_}, otraCosa_{otro.otraCosa_} {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (fd_ >= 0) ::close(fd_);
+    }
 
-/// The same, for a file that must be there; gives the reason when it can't be opened.
-std::fstream exigeFlujo(const fs::path& ruta, std::ios::openmode modo) {
-    std::fstream flujo = abreFlujo(ruta, modo);
-    if (!flujo.is_open()) rechaza(ruta, motivo(errorDelSistema(), "no se puede abrir"));
-    return flujo;
-}
+    [[nodiscard]] bool abierto() const { return fd_ >= 0 && otraCosa_ == nullptr; }
+    /// Nothing of that name, and nothing else in its place.
+    [[nodiscard]] bool ausente() const {
+        return error_ == ENOENT || error_ == ENOTDIR || error_ == ENAMETOOLONG;
+    }
+    /// Something is there and it is no file.
+    [[nodiscard]] bool esOtraCosa() const { return otraCosa_ != nullptr; }
+    /// Why it isn't open.
+    [[nodiscard]] std::string porque() const {
+        return otraCosa_ != nullptr ? otraCosa_
+                                    : motivo({error_, std::generic_category()}, "no se puede abrir");
+    }
 
-/// Makes an empty file where there is none; gives the error when it can't.
-std::error_code creaSiFalta(const fs::path& ruta) {
-    if (existeAlgo(ruta)) return {};
-    return abreFlujo(ruta, std::ios::out | std::ios::app).is_open() ? std::error_code{} : errorDelSistema();
+    /// -1 when it can't be known.
+    [[nodiscard]] off_t longitud() const {
+        struct stat datos {};
+        return ::fstat(fd_, &datos) == 0 ? datos.st_size : -1;
+    }
+    /// Bytes read, fewer at the end of the file; -1 when the disk fails.
+    [[nodiscard]] ssize_t lee(std::uint64_t posicion, std::span<char> destino) const {
+        return todo(destino, [&](std::span<char> resto, std::size_t hechos) {
+            return ::pread(fd_, resto.data(), resto.size(), static_cast<off_t>(posicion + hechos));
+        });
+    }
+    /// Bytes written; `errno` tells why they are fewer.
+    [[nodiscard]] std::size_t escribe(std::uint64_t posicion, std::span<const char> origen) const {
+        std::size_t hechos = 0;
+        while (hechos < origen.size()) {
+            const auto resto = origen.subspan(hechos);
+            const ssize_t n =
+                ::pwrite(fd_, resto.data(), resto.size(), static_cast<off_t>(posicion + hechos));
+            if (n < 0 && errno == EINTR) continue;
+            if (n <= 0) break;
+            hechos += static_cast<std::size_t>(n);
+        }
+        return hechos;
+    }
+    [[nodiscard]] bool corta(std::uint64_t longitud) const {
+        return ::ftruncate(fd_, static_cast<off_t>(longitud)) == 0;
+    }
+
+  private:
+    template <typename Lee>
+    static ssize_t todo(std::span<char> destino, const Lee& lee) {
+        std::size_t hechos = 0;
+        while (hechos < destino.size()) {
+            const ssize_t n = lee(destino.subspan(hechos), hechos);
+            if (n < 0 && errno == EINTR) continue;
+            if (n < 0) return -1;
+            if (n == 0) break;
+            hechos += static_cast<std::size_t>(n);
+        }
+        return static_cast<ssize_t>(hechos);
+    }
+
+    int fd_;
+    int error_;
+    const char* otraCosa_ = nullptr;
+};
+
+/// The same, for a file that must be there.
+Descriptor exigeAbierto(const fs::path& ruta, int modo) {
+    Descriptor descriptor{ruta, modo};
+    if (!descriptor.abierto()) rechaza(ruta, descriptor.porque());
+    return descriptor;
 }
 
 /// A file that is absent from a directory where nothing can be created.
@@ -99,47 +164,31 @@ class FicheroVacio final : public FicheroAleatorio {
 
 class FicheroEnDisco final : public FicheroAleatorio {
   public:
-    FicheroEnDisco(fs::path ruta, std::fstream flujo) : ruta_{std::move(ruta)}, flujo_{std::move(flujo)} {}
+    FicheroEnDisco(fs::path ruta, Descriptor descriptor)
+        : ruta_{std::move(ruta)}, descriptor_{std::move(descriptor)} {}
 
     [[nodiscard]] std::uint64_t longitud() override {
-        flujo_.clear();
-        flujo_.seekg(0, std::ios::end);
-        const auto fin = flujo_.tellg();
-        return fin < 0 ? 0 : static_cast<std::uint64_t>(fin);
+        return static_cast<std::uint64_t>(std::max<off_t>(descriptor_.longitud(), 0));
     }
-
     std::size_t lee(std::uint64_t posicion, std::span<char> destino) override {
-        flujo_.clear();
-        flujo_.seekg(static_cast<std::streamoff>(posicion));
-        flujo_.read(destino.data(), static_cast<std::streamsize>(destino.size()));
-        if (flujo_.bad()) rechaza(ruta_, "no se puede leer");
-        return static_cast<std::size_t>(flujo_.gcount());
+        const ssize_t leidos = descriptor_.lee(posicion, destino);
+        if (leidos < 0) rechaza(ruta_, "no se puede leer");
+        return static_cast<std::size_t>(leidos);
     }
-
     std::size_t escribe(std::uint64_t posicion, std::span<const char> origen) override {
-        flujo_.clear();
-        if (!flujo_.seekp(static_cast<std::streamoff>(posicion))) return 0;
-        const auto escritos =
-            flujo_.rdbuf()->sputn(origen.data(), static_cast<std::streamsize>(origen.size()));
-        flujo_.flush();
-        return static_cast<std::size_t>(std::max<std::streamsize>(escritos, 0));
+        return descriptor_.escribe(posicion, origen);
     }
-
-    bool corta(std::uint64_t longitud) override {
-        std::error_code error;
-        fs::resize_file(ruta_, longitud, error);
-        return !error;
-    }
+    bool corta(std::uint64_t longitud) override { return descriptor_.corta(longitud); }
 
   private:
     fs::path ruta_;
-    std::fstream flujo_;
+    Descriptor descriptor_;
 };
 
-/// The file that stands under a name, behind the links, once it's known that it may be written.
+/// The file to replace, behind the links, once it's known that it may be written; an absent one is itself.
 fs::path reemplazable(const fs::path& ruta) {
-    if (!ExisteArchivo(ruta)) rechaza(ruta, "no es un fichero corriente");
-    (void)exigeFlujo(ruta, std::ios::in | std::ios::out);
+    const Descriptor hallado{ruta, O_RDWR};
+    if (!hallado.abierto() && !hallado.ausente()) rechaza(ruta, hallado.porque());
     std::error_code error;
     fs::path real = fs::canonical(ruta, error);
     return error ? ruta : real;
@@ -157,14 +206,12 @@ class Relevo {
     }
 
     void escribe(std::string_view contenido) {
-        std::fstream flujo = abreFlujo(ruta_, std::ios::out | std::ios::trunc);
-        if (!flujo.is_open()) falla(errorDelSistema());
+        const Descriptor fichero{ruta_, O_WRONLY | O_CREAT};
+        if (!fichero.abierto()) rechaza(destino_, estorbo(fichero));
         creado_ = true;
-        const auto escritos =
-            flujo.rdbuf()->sputn(contenido.data(), static_cast<std::streamsize>(contenido.size()));
-        if (escritos != static_cast<std::streamsize>(contenido.size())) falla(errorDelSistema());
-        flujo.close();
-        if (flujo.fail()) falla(errorDelSistema());
+        errno = 0;
+        if (fichero.escribe(0, contenido) != contenido.size() || !fichero.corta(contenido.size()))
+            rechaza(destino_, motivo(errorDelSistema(), "no se puede escribir"));
     }
 
     void ocupaSuSitio() {
@@ -172,13 +219,14 @@ class Relevo {
         const auto antes = fs::status(destino_, error);
         if (fs::exists(antes)) fs::permissions(ruta_, antes.permissions(), error);
         fs::rename(ruta_, destino_, error);
-        if (error) falla(error);
+        if (error) rechaza(destino_, motivo(error, "no se puede escribir"));
         puesto_ = true;
     }
 
   private:
-    [[noreturn]] void falla(const std::error_code& error) const {
-        rechaza(destino_, motivo(error, "no se puede escribir"));
+    /// Something else that stands in the way is told by its own name.
+    [[nodiscard]] std::string estorbo(const Descriptor& fichero) const {
+        return fichero.esOtraCosa() ? ruta_.filename().string() + " " + fichero.porque() : fichero.porque();
     }
 
     fs::path destino_;
@@ -221,36 +269,49 @@ bool DirectorioAplicacion::existe(std::string_view nombre) const {
 
 std::unique_ptr<FicheroAleatorio> DirectorioAplicacion::abre(std::string_view nombre, Acceso acceso) {
     const fs::path fichero = ruta(nombre);
-    exigeQueNoSeaCarpeta(fichero);
-    const std::error_code falta = creaSiFalta(fichero);
-    if (falta && acceso == Acceso::Lectura) return std::make_unique<FicheroVacio>();
-    if (falta) rechaza(fichero, motivo(falta, "no se puede crear"));
-    if (acceso == Acceso::Lectura) return AbreParaLeer(fichero);
-    return std::make_unique<FicheroEnDisco>(fichero, exigeFlujo(fichero, std::ios::in | std::ios::out));
+    const int modo = acceso == Acceso::Lectura ? O_RDONLY : O_RDWR;
+    Descriptor hallado{fichero, modo};
+    if (hallado.abierto()) return std::make_unique<FicheroEnDisco>(fichero, std::move(hallado));
+    if (!hallado.ausente()) rechaza(fichero, hallado.porque());
+    Descriptor nuevo{fichero, modo | O_CREAT};
+    if (nuevo.abierto()) return std::make_unique<FicheroEnDisco>(fichero, std::move(nuevo));
+    if (acceso == Acceso::Lectura) return std::make_unique<FicheroVacio>();
+    rechaza(fichero, nuevo.porque());
 }
 
-std::string DirectorioAplicacion::leeTodo(std::string_view nombre) const {
+std::string DirectorioAplicacion::leeHasta(std::string_view nombre, std::size_t maximo) const {
     const fs::path fichero = ruta(nombre);
-    exigeQueNoSeaCarpeta(fichero);
-    std::fstream flujo = exigeFlujo(fichero, std::ios::in);
-    constexpr std::size_t kTrozo = 65536;
+    const Descriptor descriptor = exigeAbierto(fichero, O_RDONLY);
+    const off_t longitud = descriptor.longitud();
+    if (longitud < 0) rechaza(fichero, "no se puede leer");
     std::string contenido;
+    // A file without a length of its own is read to its end all the same, a byte beyond the bound at most.
+    constexpr std::size_t kTrozo = 65536;
+    std::size_t trozo = std::min(static_cast<std::size_t>(longitud), maximo) + 1;
+    ssize_t leidos = 0;
     do {
-        const std::size_t leidos = contenido.size();
-        contenido.resize(leidos + kTrozo);
-        flujo.read(contenido.data() + leidos, static_cast<std::streamsize>(kTrozo));
-        contenido.resize(leidos + static_cast<std::size_t>(flujo.gcount()));
-    } while (flujo);
-    if (flujo.bad()) rechaza(fichero, "no se puede leer");
+        const std::size_t antes = contenido.size();
+        contenido.resize(std::min(antes + trozo, maximo + 1));
+        leidos = descriptor.lee(antes, std::span{contenido}.subspan(antes));
+        if (leidos < 0) rechaza(fichero, "no se puede leer");
+        contenido.resize(antes + static_cast<std::size_t>(leidos));
+        if (contenido.size() > maximo) rechaza(fichero, "es demasiado grande para lo que debe contener");
+        trozo = kTrozo;
+    } while (leidos > 0);
     return contenido;
 }
 
 void DirectorioAplicacion::sustituye(std::string_view nombre, std::string_view contenido) {
     const fs::path fichero = ruta(nombre);
-    exigeQueNoSeaCarpeta(fichero);
-    Relevo relevo{existeAlgo(fichero) ? reemplazable(fichero) : fichero};
+    Relevo relevo{reemplazable(fichero)};
     relevo.escribe(contenido);
     relevo.ocupaSuSitio();
+}
+
+bool DirectorioAplicacion::elimina(std::string_view nombre) {
+    std::error_code error;
+    const fs::path fichero = ruta(nombre);
+    return !ExisteArchivo(fichero) || fs::remove(fichero, error);
 }
 
 fs::path DirectorioAplicacion::ruta(std::string_view nombre) const {
@@ -263,7 +324,7 @@ fs::path DirectorioAplicacion::ruta(std::string_view nombre) const {
 }
 
 std::unique_ptr<FicheroAleatorio> AbreParaLeer(const fs::path& ruta) {
-    return std::make_unique<FicheroEnDisco>(ruta, exigeFlujo(ruta, std::ios::in));
+    return std::make_unique<FicheroEnDisco>(ruta, exigeAbierto(ruta, O_RDONLY));
 }
 
 bool ExisteArchivo(const fs::path& ruta) {

@@ -26,6 +26,10 @@ class FicheroAleatorio {
 
 enum class Acceso { Lectura, Escritura };
 
+/// Bytes of the largest text that the program reads whole, and of the largest picture.
+inline constexpr std::size_t kMaximoTexto = std::size_t{4} << 20;
+inline constexpr std::size_t kMaximoImagen = std::size_t{64} << 20;
+
 /// The application directory: all the program's files, by bare name, without regard to case.
 class Almacen {
   public:
@@ -35,11 +39,17 @@ class Almacen {
     /// Opens for random access and creates the file if absent. For reading, a file that is absent and can't
     /// be created reads as empty. Throws FicheroInaccesible.
     [[nodiscard]] virtual std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) = 0;
-    /// The whole file. Throws FicheroInaccesible.
-    [[nodiscard]] virtual std::string leeTodo(std::string_view nombre) const = 0;
+    /// The whole file, which must not be larger than it can sensibly be. Throws FicheroInaccesible.
+    [[nodiscard]] virtual std::string leeHasta(std::string_view nombre, std::size_t maximo) const = 0;
+    /// The same for a list, an index or any other text of the program.
+    [[nodiscard]] std::string leeTodo(std::string_view nombre) const {
+        return leeHasta(nombre, kMaximoTexto);
+    }
     /// Puts a whole new file in the place of the old, which stays as it was if anything fails. Throws
     /// FicheroInaccesible.
     virtual void sustituye(std::string_view nombre, std::string_view contenido) = 0;
+    /// Removes the file, if there is one; false when that can't be done.
+    virtual bool elimina(std::string_view nombre) = 0;
     /// Where the name lies on disk, for libraries that read files themselves (pictures).
     [[nodiscard]] virtual std::filesystem::path ruta(std::string_view nombre) const = 0;
 };
@@ -51,8 +61,9 @@ class DirectorioAplicacion final : public Almacen {
 
     [[nodiscard]] bool existe(std::string_view nombre) const override;
     [[nodiscard]] std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) override;
-    [[nodiscard]] std::string leeTodo(std::string_view nombre) const override;
+    [[nodiscard]] std::string leeHasta(std::string_view nombre, std::size_t maximo) const override;
     void sustituye(std::string_view nombre, std::string_view contenido) override;
+    bool elimina(std::string_view nombre) override;
     /// The exact name first, then the smallest that matches without regard to case, else the name as given.
     [[nodiscard]] std::filesystem::path ruta(std::string_view nombre) const override;
 

@@ -18,8 +18,9 @@ struct Escape {
     char32_t caracter;
     std::string_view escrito;
 };
-constexpr std::array kEscapes{Escape{'"', "\\\""},  Escape{'\\', "\\\\"}, Escape{'\b', "\\b"}, Escape{'\f', "\\f"},
-                              Escape{'\n', "\\n"}, Escape{'\r', "\\r"},  Escape{'\t', "\\t"}};
+constexpr std::array kEscapes{Escape{'"', "\\\""}, Escape{'\\', "\\\\"}, Escape{'\b', "\\b"},
+                              Escape{'\f', "\\f"}, Escape{'\n', "\\n"},  Escape{'\r', "\\r"},
+                              Escape{'\t', "\\t"}};
 
 /// The controls of the two halves of the table of characters.
 bool esControl(char32_t caracter) {
@@ -72,7 +73,8 @@ void agregaReal(std::string& salida, T numero) {
 void AgregaJson(std::string& salida, std::string_view texto) {
     salida += '"';
     for (std::size_t pos = 0; pos < texto.size();) {
-        const auto especial = std::find_if_not(texto.begin() + static_cast<std::ptrdiff_t>(pos), texto.end(), esLlano);
+        const auto especial =
+            std::find_if_not(texto.begin() + static_cast<std::ptrdiff_t>(pos), texto.end(), esLlano);
         const auto fin = static_cast<std::size_t>(especial - texto.begin());
         salida.append(texto, pos, fin - pos);
         pos = fin;
