@@ -55,13 +55,15 @@ std::optional<LoAnterior> leido(std::string_view bytes) {
     const std::string_view sumado = bytes.substr(0, bytes.size() - kNumero);
     if (numeroEn(bytes, sumado.size()) != suma(sumado)) return std::nullopt;
     return LoAnterior{numeroEn(bytes, kMarca.size()), numeroEn(bytes, kMarca.size() + kNumero),
-                      numeroEn(bytes, kMarca.size() + 2 * kNumero), std::string{sumado.substr(kPosicionBytes)}};
+                      numeroEn(bytes, kMarca.size() + 2 * kNumero),
+                      std::string{sumado.substr(kPosicionBytes)}};
 }
 
 /// Whether the file may be the one that the write left: a copy put in its place since then has other lengths.
 bool esDeEse(const LoAnterior& anterior, FicheroAleatorio& fichero) {
     const std::uint64_t ahora = fichero.longitud();
-    return ahora >= anterior.longitud && ahora <= std::max(anterior.longitud, anterior.posicion + anterior.ancho);
+    return ahora >= anterior.longitud &&
+           ahora <= std::max(anterior.longitud, anterior.posicion + anterior.ancho);
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ constexpr double kTwipsPorPulgada = 1440;
 }
 
 [[nodiscard]] QImage leeImagen(const Almacen& almacen, const std::string& nombre) {
-    const std::string bytes = almacen.leeHasta(nombre, kMaximoImagen);
+    const std::string bytes = almacen.leeHasta(nombre, kMaximoFicheroImagen);
     QImage imagen = QImage::fromData(QByteArray::fromStdString(bytes));
     if (imagen.isNull()) throw FalloImpresion{"el fichero «" + nombre + "» no contiene una imagen"};
     return imagen;

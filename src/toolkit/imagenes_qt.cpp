@@ -23,7 +23,7 @@ qint32 puntosPorMetro(const QByteArray& bytes) {
 }  // namespace
 
 QPixmap cargaImagen(const Almacen& almacen, const std::string& nombre) {
-    const QByteArray bytes = QByteArray::fromStdString(almacen.leeHasta(nombre, kMaximoImagen));
+    const QByteArray bytes = QByteArray::fromStdString(almacen.leeHasta(nombre, kMaximoFicheroImagen));
     QPixmap imagen;
     if (!imagen.loadFromData(bytes)) throw FicheroInaccesible{nombre, "no es una imagen que se pueda leer"};
     imagen.setDevicePixelRatio(std::max(1.0, puntosPorMetro(bytes) / kPuntosPorMetro));

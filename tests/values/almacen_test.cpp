@@ -213,12 +213,12 @@ TEST_F(EnDirectorio, WhatIsNoFileIsRefusedAndSaysWhatItIs) {
 TEST_F(EnDirectorio, AFileReadWholeHasABound) {
     pon("ipc.txt", "x");
     fs::resize_file(carpeta / "ipc.txt", std::uintmax_t{10} << 30);
-    pon("justo", std::string(kMaximoTexto, 'x'));
+    pon("justo", std::string(kMaximoFicheroTexto, 'x'));
     const DirectorioAplicacion directorio{carpeta};
     EXPECT_EQ(noSePuedeUsar("ipc.txt", "es demasiado grande para lo que debe contener"),
               fallo([&] { (void)directorio.leeTodo("ipc.txt"); }));
-    EXPECT_EQ(kMaximoTexto, directorio.leeTodo("justo").size());
-    EXPECT_THROW((void)directorio.leeHasta("justo", kMaximoTexto - 1), FicheroInaccesible);
+    EXPECT_EQ(kMaximoFicheroTexto, directorio.leeTodo("justo").size());
+    EXPECT_THROW((void)directorio.leeHasta("justo", kMaximoFicheroTexto - 1), FicheroInaccesible);
 }
 
 TEST_F(EnDirectorio, AFileThatCannotBeReadIsNotTakenForEmpty) {

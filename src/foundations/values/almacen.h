@@ -27,8 +27,8 @@ class FicheroAleatorio {
 enum class Acceso { Lectura, Escritura };
 
 /// Bytes of the largest text that the program reads whole, and of the largest picture.
-inline constexpr std::size_t kMaximoTexto = std::size_t{4} << 20;
-inline constexpr std::size_t kMaximoImagen = std::size_t{64} << 20;
+inline constexpr std::size_t kMaximoFicheroTexto = std::size_t{4} << 20;
+inline constexpr std::size_t kMaximoFicheroImagen = std::size_t{64} << 20;
 
 /// The application directory: all the program's files, by bare name, without regard to case.
 class Almacen {
@@ -43,7 +43,7 @@ class Almacen {
     [[nodiscard]] virtual std::string leeHasta(std::string_view nombre, std::size_t maximo) const = 0;
     /// The same for a list, an index or any other text of the program.
     [[nodiscard]] std::string leeTodo(std::string_view nombre) const {
-        return leeHasta(nombre, kMaximoTexto);
+        return leeHasta(nombre, kMaximoFicheroTexto);
     }
     /// Puts a whole new file in the place of the old, which stays as it was if anything fails. Throws
     /// FicheroInaccesible.
