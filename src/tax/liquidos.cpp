@@ -1,5 +1,7 @@
 #include "tax/liquidos.h"
 
+#include <limits>
+
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 #include "payroll/grupos/grupos.h"
@@ -63,12 +65,35 @@ double tipoCon(irpf::DatosRetencion& persona, std::uint8_t Pagas, double Bruto) 
     return CalculaRetencion(persona).TipoRetencion;
 }
 
+/// Notices an amount that comes back. A turn depends on nothing but the amount before it, so from there on
+/// the turns go round in circles.
+class Ronda {
+  public:
+    /// How many of the turns left are whole rounds, once the amount of this turn has been seen before.
+    int vueltasDeMas(int vuelta, double Bruto) {
+        if (Bruto == hito_) {
+            const int periodo = vuelta - vueltaDelHito_;
+            return (kMaximoVueltas - vuelta) / periodo * periodo;
+        }
+        if (vuelta >= 2 * vueltaDelHito_) {
+            hito_ = Bruto;
+            vueltaDelHito_ = vuelta;
+        }
+        return 0;
+    }
+
+  private:
+    double hito_ = std::numeric_limits<double>::quiet_NaN();
+    int vueltaDelHito_ = 0;
+};
+
 }  // namespace
 
 ResultadoLiquidos LiquidosCalcular(const DatosLiquidos& datos) {
     ResultadoLiquidos r{.Bruto = datos.Neto, .Pagas = pagasCon(datos.Extra)};
     irpf::DatosRetencion persona = PreparaRetencion(datos);
     std::string BrutoTexto = "0";
+    Ronda ronda;
     while (r.vueltas < kMaximoVueltas) {
         ++r.vueltas;
         r.TipoRetencion = tipoCon(persona, r.Pagas, r.Bruto);
@@ -76,6 +101,7 @@ ResultadoLiquidos LiquidosCalcular(const DatosLiquidos& datos) {
         r.Bruto = (datos.Neto + r.CuotaSS) / (1 - r.TipoRetencion / 100);
         if (LeeNumeroRegional(BrutoTexto) == r.Bruto) break;
         BrutoTexto = TextoPlano(r.Bruto);
+        r.vueltas += ronda.vueltasDeMas(r.vueltas, r.Bruto);
     }
     return r;
 }
