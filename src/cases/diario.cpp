@@ -83,7 +83,7 @@ bool LoAnterior::repone(FicheroAleatorio& fichero) const {
 }
 
 Diario::Diario(Almacen& almacen, const std::string& fichero)
-    : almacen_{almacen}, fichero_{fichero}, nombre_{fichero + ".diario"} {}
+    : almacen_{almacen}, fichero_{fichero}, nombre_{fichero + std::string{kSufijoDiario}} {}
 
 void Diario::anota(const LoAnterior& anterior) {
     const std::string bytes = escrito(anterior);

@@ -2,10 +2,14 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "foundations/values/almacen.h"
 
 namespace orvemo {
+
+/// What the name of a journal adds to that of its case file.
+inline constexpr std::string_view kSufijoDiario = ".diario";
 
 /// What a case file holds where an operation is about to write.
 struct LoAnterior {

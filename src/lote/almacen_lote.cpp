@@ -1,5 +1,7 @@
 #include "lote/almacen_lote.h"
 
+#include "cases/diario.h"
+
 namespace orvemo::lote {
 
 namespace {
@@ -23,13 +25,18 @@ class Prestado final : public FicheroAleatorio {
 }  // namespace
 
 AlmacenLote::AlmacenLote(const std::filesystem::path& datos, const std::filesystem::path& fichero)
-    : datos_{datos}, comoSeDio_{fichero.string()}, fichero_{AbreParaLeer(fichero)} {}
+    : datos_{datos}, comoSeDio_{fichero.string()}, fichero_{AbreParaLeer(fichero)} {
+    DirectorioAplicacion suCarpeta{std::filesystem::absolute(fichero).parent_path()};
+    Diario{suCarpeta, fichero.filename().string()}.recupera();
+}
 
 bool AlmacenLote::esElFichero(std::string_view nombre) const {
     return nombre == nombre_ || nombre == comoSeDio_;
 }
 
 bool AlmacenLote::existe(std::string_view nombre) const {
+    // Nor is a journal looked for beside the file at every case: nothing is written here.
+    if (nombre.starts_with(nombre_) && nombre.ends_with(kSufijoDiario)) return false;
     return esElFichero(nombre) || datos_.existe(nombre);
 }
 

@@ -2,15 +2,18 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <system_error>
 
 #include "cases/archivo_supuestos.h"
+#include "cases/texto_caso.h"
 #include "foundations/frame/asistente.h"
 #include "foundations/values/fallos.h"
 #include "lote/almacen_lote.h"
 #include "lote/salida.h"
+#include "lote/traslado.h"
 #include "toolkit/impresora_pdf.h"
 
 namespace orvemo::lote {
@@ -38,20 +41,28 @@ class RelojLote final : public Reloj {
     Fecha hoy_;
 };
 
-/// One calculator just opened, with a world of its own around it.
+/// One calculator, with a world of its own around it.
 class Apertura {
   public:
-    Apertura(const RegistroCatalogo& registro, Almacen& almacen, const Reloj& reloj,
-             std::filesystem::path pdf)
-        : impresora_{almacen, std::move(pdf)},
+    Apertura(const RegistroCatalogo& registro, Almacen& almacen, const Reloj& reloj)
+        : impresora_{almacen},
           entorno_{mensajes_, reloj, almacen, impresora_, rutinas_, valores_},
-          calculadora_{registro.abre(entorno_)} {}
+          calculadora_{registro.abre(entorno_)} {
+        calculadora_->Inicia();
+    }
 
+    /// Leaves the calculator as it was just opened; false when it can't be.
+    [[nodiscard]] bool empiezaDeNuevo() {
+        mensajes_.error.clear();
+        valores_ = {};
+        return calculadora_->pulsa(calculadora_->BotonNuevo);
+    }
     [[nodiscard]] Calculadora& calculadora() { return *calculadora_; }
     [[nodiscard]] const std::string& error() const { return mensajes_.error; }
     /// Throws Fallo without a picture to head the pages.
-    void imprime(const Almacen& almacen) {
+    void imprime(const Almacen& almacen, std::filesystem::path pdf) {
         rutinas_.ponLogo(imagenDe(almacen, "logo.bmp"));
+        impresora_.ponRuta(std::move(pdf));
         calculadora_->pulsa(calculadora_->BotonPrint);
     }
 
@@ -68,53 +79,69 @@ class Lote {
   public:
     /// Throws Fallo for a case file that can't be read, or a data file of the calculator that is amiss.
     Lote(const Opciones& opciones, const std::filesystem::path& datos, const RegistroCatalogo& registro)
-        : opciones_{opciones}, almacen_{datos, opciones.fichero}, reloj_{opciones.hoy}, registro_{registro} {
+        : opciones_{opciones},
+          almacen_{datos, opciones.fichero},
+          archivo_{almacen_, opciones.fichero.string(), registro.longitud},
+          reloj_{opciones.hoy},
+          registro_{registro} {
         almacen_.ponNombreDelFichero(std::string{registro.fichero});
-        Apertura{registro_, almacen_, reloj_, {}}.calculadora().Inicia();
+        apertura_ = std::make_unique<Apertura>(registro_, almacen_, reloj_);
     }
 
-    [[nodiscard]] int cuenta() { return archivo().cuenta(); }
-    /// The case of that record; nullopt for a free slot.
-    [[nodiscard]] std::optional<EntradaSupuesto> entrada(int registro) { return archivo().entrada(registro); }
+    [[nodiscard]] int cuenta() const { return archivo_.cuenta(); }
+    /// The case of that record; nullopt for a free slot. Throws Fallo for one that isn't there whole.
+    [[nodiscard]] std::optional<EntradaSupuesto> entrada(int registro) const {
+        return archivo_.entrada(registro);
+    }
 
-    /// Opens, loads, goes to the conclusions, prints if asked; whatever fails stands in the result.
+    /// Loads, goes to the conclusions, prints if asked; whatever fails stands in the result. Nothing of one
+    /// case is there for the next.
     [[nodiscard]] Resultado calcula(const EntradaSupuesto& entrada) {
         Resultado resultado;
         resultado.registro = entrada.registro;
         resultado.supuesto = entrada.nombre;
-        Apertura apertura{registro_, almacen_, reloj_, rutaPdf(entrada.registro)};
-        Calculadora& calculadora = apertura.calculadora();
         try {
-            calculadora.Inicia();
-            calculadora.DatosCargaRegistro(entrada.registro);
-            calculadora.concluye();
-            if (opciones_.pdf && apertura.error().empty()) apertura.imprime(almacen_);
-            resultado.error = apertura.error();
+            if (!apertura_ || !apertura_->empiezaDeNuevo())
+                apertura_ = std::make_unique<Apertura>(registro_, almacen_, reloj_);
+            recorre(resultado);
         } catch (const Fallo& fallo) {
             resultado.error = fallo.what();
         }
-        resultado.nombre = calculadora.campoNombre().texto();
-        if (const auto* asistente = dynamic_cast<const Asistente*>(&calculadora)) {
-            resultado.derecho = asistente->ConDerecho();
-            resultado.conclusion = asistente->textoConclusion();
-        }
+        // Where a failure left the calculator is not looked into: the next case opens another.
+        if (!resultado.error.empty()) apertura_.reset();
         return resultado;
     }
 
   private:
-    [[nodiscard]] ArchivoSupuestos archivo() {
-        return {almacen_, opciones_.fichero.string(), registro_.longitud};
+    void recorre(Resultado& resultado) {
+        Calculadora& calculadora = apertura_->calculadora();
+        calculadora.DatosCargaRegistro(resultado.registro);
+        calculadora.concluye();
+        if (opciones_.pdf && apertura_->error().empty())
+            apertura_->imprime(almacen_, rutaPdf(resultado.registro));
+        resultado.error = apertura_->error();
+        resultado.nombre = calculadora.campoNombre().texto();
+        const auto* asistente = dynamic_cast<const Asistente*>(&calculadora);
+        if (asistente != nullptr && calculadora.PantallaActual() == calculadora.ultimaPantalla()) {
+            resultado.derecho = asistente->ConDerecho();
+            resultado.conclusion = asistente->textoConclusion();
+        }
+        if (!opciones_.json) return;
+        resultado.miembros = ",\"campos\":";
+        EscribeCampos(resultado.miembros, *registro_.forma, archivo_.lee(resultado.registro));
+        calculadora.agregaResultados(resultado.miembros);
     }
 
     [[nodiscard]] std::filesystem::path rutaPdf(int registro) const {
-        if (!opciones_.pdf) return {};
         return *opciones_.pdf / (opciones_.calculadora + "-" + std::to_string(registro) + ".pdf");
     }
 
     const Opciones& opciones_;
     AlmacenLote almacen_;
+    ArchivoSupuestos archivo_;
     RelojLote reloj_;
     const RegistroCatalogo& registro_;
+    std::unique_ptr<Apertura> apertura_;
 };
 
 void exigeDirectorio(const std::filesystem::path& ruta) {
@@ -125,9 +152,11 @@ void exigeDirectorio(const std::filesystem::path& ruta) {
 
 /// Throws ArgumentoInservible for what can't be used at all.
 void compruebaRutas(const Opciones& opciones) {
-    if (!ExisteArchivo(opciones.fichero)) {
+    std::error_code error;
+    const bool falta =
+        std::filesystem::status(opciones.fichero, error).type() == std::filesystem::file_type::not_found;
+    if (falta && opciones.mandato != Mandato::Importa)
         throw ArgumentoInservible{"No se encuentra el fichero " + opciones.fichero.string() + "."};
-    }
     if (opciones.datos) exigeDirectorio(*opciones.datos);
     if (opciones.pdf) exigeDirectorio(*opciones.pdf);
 }
@@ -152,34 +181,65 @@ std::pair<int, int> registrosPedidos(const Opciones& opciones, Lote& lote) {
     return {*opciones.registro, *opciones.registro};
 }
 
+/// The result of a record; nullopt for a free slot.
+std::optional<Resultado> resultadoDe(Lote& lote, int registro) {
+    try {
+        if (const auto entrada = lote.entrada(registro)) return lote.calcula(*entrada);
+        return std::nullopt;
+    } catch (const Fallo& fallo) {
+        Resultado resultado;
+        resultado.registro = registro;
+        resultado.error = fallo.what();
+        return resultado;
+    }
+}
+
 int calculaTodo(const Opciones& opciones, Lote& lote, std::ostream& salida) {
     const auto [primero, ultimo] = registrosPedidos(opciones, lote);
     bool algunFallo = false;
+    std::string escrito;
     for (int registro = primero; registro <= ultimo; ++registro) {
-        const auto entrada = lote.entrada(registro);
-        if (!entrada) continue;
-        const Resultado resultado = lote.calcula(*entrada);
-        algunFallo = algunFallo || !resultado.error.empty();
-        (opciones.json ? escribeJson : escribeTexto)(salida, resultado);
+        const auto resultado = resultadoDe(lote, registro);
+        if (!resultado) continue;
+        algunFallo = algunFallo || !resultado->error.empty();
+        escrito.clear();
+        (opciones.json ? EscribeJson : EscribeTexto)(escrito, *resultado);
+        salida.write(escrito.data(), static_cast<std::streamsize>(escrito.size()));
         // Whoever reads has each result as soon as it's there, and nothing is computed for nobody.
         if (!salida.flush()) throw ArgumentoInservible{"No se puede escribir la salida."};
     }
     return algunFallo ? kAlgunoFallo : kTodoCalculado;
 }
 
+int obedece(const Opciones& opciones, Calculadoras catalogo, const std::filesystem::path& datosPorDefecto,
+            std::ostream& salida, std::ostream& errores, std::istream& entrada) {
+    compruebaRutas(opciones);
+    const RegistroCatalogo& registro = registroPedido(catalogo, opciones.calculadora);
+    if (opciones.mandato == Mandato::Exporta) {
+        Exporta(registro, opciones.fichero, salida);
+        if (!salida.flush()) throw ArgumentoInservible{"No se puede escribir la salida."};
+        return kTodoCalculado;
+    }
+    if (opciones.mandato == Mandato::Importa) {
+        const bool importado = Importa(registro, opciones.fichero, entrada, errores);
+        return importado ? kTodoCalculado : kInservible;
+    }
+    Lote lote{opciones, opciones.datos.value_or(datosPorDefecto), registro};
+    return calculaTodo(opciones, lote, salida);
+}
+
 }  // namespace
 
 int ejecuta(const Opciones& opciones, Calculadoras catalogo, const std::filesystem::path& datosPorDefecto,
-            std::ostream& salida, std::ostream& errores) {
+            std::ostream& salida, std::ostream& errores, std::istream& entrada) {
     try {
-        compruebaRutas(opciones);
-        Lote lote{opciones, opciones.datos.value_or(datosPorDefecto),
-                  registroPedido(catalogo, opciones.calculadora)};
-        return calculaTodo(opciones, lote, salida);
+        return obedece(opciones, catalogo, datosPorDefecto, salida, errores, entrada);
     } catch (const ArgumentoInservible& error) {
         errores << error.what() << '\n';
-    } catch (const Fallo& fallo) {
-        errores << "No se ha podido completar la operación: " << fallo.what() << ".\n";
+    } catch (const std::bad_alloc&) {
+        errores << "No se ha podido completar la operación: no hay memoria para tanto.\n";
+    } catch (const std::exception& error) {
+        errores << "No se ha podido completar la operación: " << error.what() << ".\n";
     }
     return kInservible;
 }

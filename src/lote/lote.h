@@ -1,7 +1,7 @@
 #pragma once
 
 #include <filesystem>
-#include <ostream>
+#include <iostream>
 
 #include "foundations/frame/catalogo.h"
 #include "lote/opciones_lote.h"
@@ -16,8 +16,9 @@ inline constexpr int kAlgunoFallo = 1;
 inline constexpr int kInservible = 2;
 
 /// Computes the cases of a file one by one, each as if the calculator had just been opened, and writes what
-/// stands on its conclusions. Results stream. Gives the exit status; what can't be used is told on `errores`.
+/// stands on its conclusions. Results stream. Or takes the cases out of the file or into it as text. Gives
+/// the exit status; what can't be used is told on `errores`.
 int ejecuta(const Opciones& opciones, Calculadoras catalogo, const std::filesystem::path& datosPorDefecto,
-            std::ostream& salida, std::ostream& errores);
+            std::ostream& salida, std::ostream& errores, std::istream& entrada = std::cin);
 
 }  // namespace orvemo::lote

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <csignal>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -37,6 +38,9 @@ int main(int argc, char** argv) {
     if (castellano.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&castellano);
     }
+    // A limit of size or a reader that went away fails the write and doesn't end the program in the middle.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
     const orvemo::Calculadoras catalogo = orvemo::CalculadorasDelPrograma();
     try {
         return ejecuta(leeOpciones(argumentos, catalogo), catalogo, directorioDelEjecutable(), std::cout,
@@ -46,6 +50,9 @@ int main(int argc, char** argv) {
         return kTodoCalculado;
     } catch (const ArgumentoInservible& error) {
         std::cerr << error.what() << '\n';
+        return kInservible;
+    } catch (const std::exception& error) {
+        std::cerr << "No se ha podido completar la operación: " << error.what() << ".\n";
         return kInservible;
     }
 }

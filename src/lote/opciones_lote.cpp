@@ -47,6 +47,15 @@ std::string motivo(const QCommandLineParser& analizador) {
     return "No existe la opción «" + comoSeDio(desconocidas.front()) + "» (véase --ayuda).";
 }
 
+/// Takes the command off the front of the arguments.
+Mandato tomaMandato(QStringList& sueltos) {
+    if (sueltos.isEmpty()) return Mandato::Calcula;
+    const bool exporta = sueltos.front() == "exporta";
+    if (!exporta && sueltos.front() != "importa") return Mandato::Calcula;
+    sueltos.removeFirst();
+    return exporta ? Mandato::Exporta : Mandato::Importa;
+}
+
 /// A calculator a line, for scripts: name, case file and file of examples, those that it has.
 std::string listaDe(Calculadoras catalogo) {
     std::string lista;
@@ -59,7 +68,10 @@ std::string listaDe(Calculadoras catalogo) {
 
 void describe(QCommandLineParser& analizador, Calculadoras catalogo) {
     analizador.setApplicationDescription(
-        "Calcula por lotes los supuestos de un fichero y da sus conclusiones.");
+        "Calcula por lotes los supuestos de un fichero y da sus conclusiones.\n"
+        "Con «exporta» delante los escribe como líneas JSON; con «importa» añade al fichero los que\n"
+        "lee así de la entrada.");
+    analizador.addPositionalArgument("", "", "[exporta|importa]");
     analizador.addPositionalArgument("CALCULADORA",
                                      QString::fromStdString("Una de: " + nombresDisponibles(catalogo)));
     analizador.addPositionalArgument("FICHERO", "Fichero de supuestos (*.nom).");
@@ -84,10 +96,11 @@ Opciones leeOpciones(const std::vector<std::string>& argumentos, Calculadoras ca
     if (!analizador.parse(lista)) throw ArgumentoInservible{motivo(analizador)};
     if (analizador.isSet(kAyuda)) throw PideAyuda{analizador.helpText().toStdString()};
     if (analizador.isSet(kLista)) throw PideAyuda{listaDe(catalogo)};
-    const QStringList sueltos = analizador.positionalArguments();
-    if (sueltos.size() != 2) throw ArgumentoInservible{"Se esperan CALCULADORA y FICHERO (véase --ayuda)."};
+    QStringList sueltos = analizador.positionalArguments();
 
     Opciones opciones;
+    opciones.mandato = tomaMandato(sueltos);
+    if (sueltos.size() != 2) throw ArgumentoInservible{"Se esperan CALCULADORA y FICHERO (véase --ayuda)."};
     opciones.calculadora = comoSeDio(sueltos[0]);
     opciones.fichero = comoSeDio(sueltos[1]);
     if (analizador.isSet(kRegistro)) opciones.registro = leeRegistro(analizador.value(kRegistro));

@@ -11,8 +11,12 @@
 
 namespace orvemo::lote {
 
+/// What the batch does with the case file.
+enum class Mandato { Calcula, Exporta, Importa };
+
 /// What one run of the batch was asked for.
 struct Opciones {
+    Mandato mandato{Mandato::Calcula};
     std::string calculadora{};
     std::filesystem::path fichero{};               ///< the case file, wherever it lies
     std::optional<int> registro{};                 ///< that record alone

@@ -1,51 +1,55 @@
 #include "lote/salida.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QString>
+#include <algorithm>
 #include <string_view>
+
+#include "foundations/values/json.h"
+#include "foundations/values/textos.h"
 
 namespace orvemo::lote {
 
 namespace {
 
-/// The JSON text of a value alone. Whole objects are put together here, since the library sorts their keys.
-std::string literal(const QJsonValue& valor) {
-    const QByteArray lista = QJsonDocument{QJsonArray{valor}}.toJson(QJsonDocument::Compact);
-    return lista.mid(1, lista.size() - 2).toStdString();
-}
-
-std::string literal(const std::string& texto) {
-    return literal(QJsonValue{QString::fromStdString(texto)});
-}
-
-std::string sinRetornos(std::string texto) {
-    std::erase(texto, '\r');
-    return texto;
+/// The lines of a text, ended by a line feed each; whatever else controls a terminal is written out.
+void agregaLineas(std::string& salida, std::string_view texto) {
+    while (!texto.empty()) {
+        const std::size_t fin = std::min(texto.find('\n'), texto.size());
+        std::string_view linea = texto.substr(0, fin);
+        if (linea.ends_with('\r')) linea.remove_suffix(1);
+        salida += ControlesALaVista(linea);
+        salida += '\n';
+        texto.remove_prefix(std::min(fin + 1, texto.size()));
+    }
 }
 
 }  // namespace
 
-void escribeTexto(std::ostream& salida, const Resultado& resultado) {
-    salida << "=== " << resultado.registro << ". " << resultado.supuesto << '\n';
+void EscribeTexto(std::string& salida, const Resultado& resultado) {
+    salida.append("=== ").append(std::to_string(resultado.registro)).append(". ");
+    salida += ControlesALaVista(resultado.supuesto) + '\n';
     if (!resultado.error.empty()) {
-        salida << "ERROR: " << resultado.error << "\n\n";
+        salida.append("ERROR: ").append(ControlesALaVista(resultado.error)).append("\n\n");
         return;
     }
-    const std::string texto = sinRetornos(resultado.conclusion);
-    salida << "Nombre: " << resultado.nombre << '\n' << texto << (texto.ends_with('\n') ? "" : "\n");
-    salida << (resultado.derecho ? "[CON DERECHO]" : "[SIN DERECHO]") << "\n\n";
+    salida += "Nombre: " + ControlesALaVista(resultado.nombre) + '\n';
+    if (resultado.conclusion.empty()) salida += '\n';
+    agregaLineas(salida, resultado.conclusion);
+    salida += resultado.derecho ? "[CON DERECHO]\n\n" : "[SIN DERECHO]\n\n";
 }
 
-void escribeJson(std::ostream& salida, const Resultado& resultado) {
-    salida << "{\"registro\":" << resultado.registro << ",\"supuesto\":" << literal(resultado.supuesto);
+void EscribeJson(std::string& salida, const Resultado& resultado) {
+    salida += '{';
+    AgregaCampoJson(salida, "registro", resultado.registro);
+    AgregaCampoJson(salida, "supuesto", resultado.supuesto);
     if (!resultado.error.empty()) {
-        salida << ",\"error\":" << literal(resultado.error) << "}\n";
-        return;
+        AgregaCampoJson(salida, "error", resultado.error);
+    } else {
+        AgregaCampoJson(salida, "nombre", resultado.nombre);
+        AgregaCampoJson(salida, "derecho", resultado.derecho);
+        AgregaCampoJson(salida, "conclusion", resultado.conclusion);
+        salida += resultado.miembros;
     }
-    salida << ",\"nombre\":" << literal(resultado.nombre)
-           << ",\"derecho\":" << (resultado.derecho ? "true" : "false")
-           << ",\"conclusion\":" << literal(resultado.conclusion) << "}\n";
+    salida += "}\n";
 }
 
 }  // namespace orvemo::lote

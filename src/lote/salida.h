@@ -1,6 +1,5 @@
 #pragma once
 
-#include <ostream>
 #include <string>
 
 namespace orvemo::lote {
@@ -12,13 +11,14 @@ struct Resultado {
     std::string nombre;    ///< the person's
     bool derecho = false;
     std::string conclusion;  ///< with its CR LF and report marks
+    std::string miembros;    ///< more members of its JSON object, a comma before each
     std::string error;       ///< not empty when the case failed; the rest then counts for nothing
 };
 
-/// Writes one result for people to read.
-void escribeTexto(std::ostream& salida, const Resultado& resultado);
+/// Appends one result for people to read.
+void EscribeTexto(std::string& salida, const Resultado& resultado);
 
-/// Writes one result as a JSON object on a line of its own.
-void escribeJson(std::ostream& salida, const Resultado& resultado);
+/// Appends one result as a JSON object on a line of its own.
+void EscribeJson(std::string& salida, const Resultado& resultado);
 
 }  // namespace orvemo::lote

@@ -47,7 +47,8 @@ std::string viuda(const std::string& pension) {
 }
 std::string huerfano(const std::string& pension, const std::string& pagas) {
     return "Cada huérfano tiene derecho a una pensión de " + pension +
-           "\r\nhasta que cumplalos 18 años, (o el máximo que corresponda en circunstancias excepcionales,\r\n"
+           "\r\nhasta que cumplalos 18 años, (o el máximo que corresponda en circunstancias "
+           "excepcionales,\r\n"
            "según nota aclaratoria de la pantalla de parámetros del supuesto.)\r\n"
            "o vitalicia si es declarado inválido absoluto, repartidas en " +
            pagas + "\r\n";

@@ -73,14 +73,16 @@ inline const std::string kRecienteSinAlta = "dentro de los 10 años anteriores a
 inline const std::string kTotalPor =
     "Incapacidad Permanente total para la profesión habitual derivada de \r\n";
 inline const std::string kAbsolutaPor = "Incapacidad Permanente absoluta para todo trabajo derivada de \r\n";
-inline const std::string kParcialPor = "Incapacidad Permanente parcial para la profesión habitual derivada de ";
+inline const std::string kParcialPor =
+    "Incapacidad Permanente parcial para la profesión habitual derivada de ";
 
 [[nodiscard]] inline std::string hanCotizado(const std::string& dias) {
     return "Ha cotizado " + dias + ", \r\n";
 }
 [[nodiscard]] inline std::string quinta(const std::string& como, const std::string& meses) {
-    return como + " el requisito de haber cotizado una quinta parte \r\n"
-                  "del periodo mínimo dentro de los 10 años anteriores al hecho causante \r\n(" +
+    return como +
+           " el requisito de haber cotizado una quinta parte \r\n"
+           "del periodo mínimo dentro de los 10 años anteriores al hecho causante \r\n(" +
            meses + ") meses.\r\n";
 }
 [[nodiscard]] inline std::string baseDe(const std::string& euros) {
@@ -91,7 +93,8 @@ inline const std::string kParcialPor = "Incapacidad Permanente parcial para la p
 }
 [[nodiscard]] inline std::string indemnizacion(const std::string& meses, const std::string& euros,
                                                const std::string& solicitud) {
-    return "Alternativamente, puede optar a una indemnización de " + meses + " mensualidades \r\nde " + euros +
+    return "Alternativamente, puede optar a una indemnización de " + meses + " mensualidades \r\nde " +
+           euros +
            " €, hasta cumplir los 60 años, en que pasará a \r\nrecibir la pensión vitalicia anterior.\r\n"
            "(Para ello debe formalizar la solicitud " +
            solicitud + ")\r\n";

@@ -47,6 +47,9 @@ class Calculadora : public Formulario {
     /// Goes on as the user would, panel after panel, to the one with the results; stops where a panel doesn't
     /// let pass.
     virtual void concluye() = 0;
+    /// Figures of the last calculation for scripts, besides what stands on the panels: appends them to the
+    /// members of an object of JSON, by AgregaCampoJson.
+    virtual void agregaResultados(std::string& /*json*/) const {}
     void CargaCaso();
     void GrabaCaso();
     /// The report, from what stands on the screen, to any target.

@@ -13,6 +13,7 @@ namespace orvemo {
 struct RegistroCatalogo {
     std::string_view fichero{};  ///< case file
     std::size_t longitud{};      ///< bytes of a record
+    const Forma* forma{};        ///< and what they hold, by name
     /// What a record becomes once read and written again by its layout.
     std::string (*relee)(std::string_view bytes){};
     std::unique_ptr<Calculadora> (*abre)(Entorno&){};
@@ -50,6 +51,7 @@ constexpr EntradaCatalogo conSupuestos(std::string_view clave, std::string_view 
             .abre = abrePantalla<Pantalla>,
             .registro = {.fichero = fichero,
                          .longitud = Pantalla::diseno().longitud(),
+                         .forma = &kFormaDe<Pantalla::diseno()>,
                          .relee = releeRegistro<Pantalla>,
                          .abre = abrePantalla<Pantalla, Calculadora>},
             .ejemplos = ejemplos};

@@ -70,6 +70,19 @@ void agregaReal(std::string& salida, T numero) {
 
 }  // namespace
 
+std::string ControlesALaVista(std::string_view texto) {
+    std::string visible;
+    for (std::size_t pos = 0; pos < texto.size();) {
+        const char32_t caracter = SiguienteCaracter(texto, pos);
+        if (esControl(caracter)) {
+            agregaCaracter(visible, caracter);
+        } else {
+            AgregaCaracter(visible, caracter);
+        }
+    }
+    return visible;
+}
+
 void AgregaJson(std::string& salida, std::string_view texto) {
     salida += '"';
     for (std::size_t pos = 0; pos < texto.size();) {

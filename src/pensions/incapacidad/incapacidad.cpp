@@ -18,15 +18,15 @@ using pensiones::Minimos;
 using pensiones::TablasPensiones;
 
 // Figures of the law for 2005.
-constexpr double kPorcentajeTotal = 0.55;      // of the regulatory base
-constexpr double kIncrementoTotal = 0.2;       // of the regulatory base, for who can't find other work
-constexpr int kEdadDelIncremento = 55;         // years
-constexpr int kEdadSinAlternativa = 60;        // years from which no lump sum takes the place of the pension
-constexpr int kMensualidadesAutonomos = 40;    // of the lump sum
-constexpr int kMaximoMensualidades = 84;       // of the lump sum in the other schemes
-constexpr int kEdadDeLaSolicitud = 21;         // years from which the lump sum may be asked for
-constexpr int kPlazoDeLaSolicitud = 1095;      // days
-constexpr int kEdadOrdinaria = 65;             // of retirement, years
+constexpr double kPorcentajeTotal = 0.55;    // of the regulatory base
+constexpr double kIncrementoTotal = 0.2;     // of the regulatory base, for who can't find other work
+constexpr int kEdadDelIncremento = 55;       // years
+constexpr int kEdadSinAlternativa = 60;      // years from which no lump sum takes the place of the pension
+constexpr int kMensualidadesAutonomos = 40;  // of the lump sum
+constexpr int kMaximoMensualidades = 84;     // of the lump sum in the other schemes
+constexpr int kEdadDeLaSolicitud = 21;       // years from which the lump sum may be asked for
+constexpr int kPlazoDeLaSolicitud = 1095;    // days
+constexpr int kEdadOrdinaria = 65;           // of retirement, years
 // The least pension of great incapacity: once and a half that of the age of 65, unrounded, euros a month.
 constexpr Minimos kMinimosGranInvalidez{786.015, 658.065};
 

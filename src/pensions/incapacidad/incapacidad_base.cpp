@@ -11,10 +11,10 @@ namespace {
 using pensiones::TablasPensiones;
 
 constexpr double kMesesDelAnio = 12;
-constexpr double kPagasDeDosAnios = 28;     // fourteen a year
-constexpr int kMesesSerieCompleta = 96;     // eight years
+constexpr double kPagasDeDosAnios = 28;  // fourteen a year
+constexpr int kMesesSerieCompleta = 96;  // eight years
 constexpr double kPagasSerieCompleta = 112;
-constexpr double kPagasPorMes = 1.1666;     // fourteenths, as the shorter series take them
+constexpr double kPagasPorMes = 1.1666;  // fourteenths, as the shorter series take them
 
 // What the screen asks for.
 constexpr int kMesesSinAlta = 180;

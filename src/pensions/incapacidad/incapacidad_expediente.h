@@ -19,8 +19,8 @@ inline constexpr std::array<std::string_view, 4> kGrados{
 
 /// Causes of the incapacity, in list order.
 enum class Causa { Profesional = 1, AccidenteNoLaboral, EnfermedadComun };
-inline constexpr std::array<std::string_view, 3> kCausas{
-    "Accidente de trabajo o enfermedad profesional", "Accidente no laboral", "Enfermedad Común"};
+inline constexpr std::array<std::string_view, 3> kCausas{"Accidente de trabajo o enfermedad profesional",
+                                                         "Accidente no laboral", "Enfermedad Común"};
 
 /// Schemes of the social security, in list order.
 enum class Regimen { General = 1, Autonomos, Agrario, EmpleadosHogar };
@@ -36,13 +36,13 @@ struct Expediente {
     Grado grado;
     Causa causa;
     Regimen regimen;
-    bool alta;            ///< in the social security, or in a situation like it
-    int edad;             ///< whole years on the day of the opinion
-    Fecha fecha16;        ///< when the person is 16
-    Fecha fecha20;        ///< when the person is 20
+    bool alta;      ///< in the social security, or in a situation like it
+    int edad;       ///< whole years on the day of the opinion
+    Fecha fecha16;  ///< when the person is 16
+    Fecha fecha20;  ///< when the person is 20
     std::vector<pensiones::Periodo> periodos;
-    int diasTP;           ///< that the hours of part-time work are worth
-    int diasTP10;         ///< those of the last ten years
+    int diasTP;    ///< that the hours of part-time work are worth
+    int diasTP10;  ///< those of the last ten years
 };
 
 /// Their texts in the lists; "" for one that is in no list.

@@ -11,7 +11,7 @@ constexpr double kDiasRecientes = 3650;  // ten years before the opinion
 constexpr double kMesesMinimos = 60;     // to be contributed within them in the domestic scheme
 constexpr double kDiasMinimos = 1800;    // to be passed within them in the others
 constexpr double kDiasPorMes = 30;
-constexpr double kMensualidades = 24;    // that the lump sum comes to
+constexpr double kMensualidades = 24;  // that the lump sum comes to
 
 constexpr double kDiasPorAnio = 365;
 constexpr int kEdadMaxima = 99;

@@ -10,18 +10,18 @@ namespace orvemo::incapacidad {
 namespace {
 
 // Figures of the law for 2005.
-constexpr double kMesesPorTramo = 6;    // months are counted by whole half years
-constexpr int kMesesMinimos = 60;       // five years, the least that an adult is asked for
-constexpr int kDiasMinimos = 1800;      // the same in days
+constexpr double kMesesPorTramo = 6;  // months are counted by whole half years
+constexpr int kMesesMinimos = 60;     // five years, the least that an adult is asked for
+constexpr int kDiasMinimos = 1800;    // the same in days
 constexpr int kDiasMinimosPorCuarto = 1825;
 constexpr int kDiasPorMes = 30;
-constexpr double kQuinta = 5;           // part of the minimum that must be recent
+constexpr double kQuinta = 5;            // part of the minimum that must be recent
 constexpr double kDiasRecientes = 3650;  // ten years before the opinion
 
 // Who is not in the social security.
 constexpr int kMesesSinAlta = 180;
-constexpr double kDiasSinAlta = 5478.75;           // 15 years
-constexpr double kDiasRecientesSinAlta = 3652.5;   // ten years before the opinion
+constexpr double kDiasSinAlta = 5478.75;            // 15 years
+constexpr double kDiasRecientesSinAlta = 3652.5;    // ten years before the opinion
 constexpr double kMinimoRecienteSinAlta = 1095.75;  // 3 years
 
 int mediosAnios(Fecha desde, Fecha hasta) {
@@ -65,8 +65,8 @@ std::string textoDelMinimo(int meses) {
 /// A fifth of the minimum must lie within the ten years before the opinion.
 bool cumpleQuinta(const Expediente& e, const PeriodoMinimo& minimo, Dictamen& d) {
     const int quinta = Suelo(minimo.meses / kQuinta);
-    const bool cumple = diasRecientes(e, kDiasRecientes) >=
-                        Menor(Suelo(minimo.dias / kQuinta), kDiasPorMes * quinta);
+    const bool cumple =
+        diasRecientes(e, kDiasRecientes) >= Menor(Suelo(minimo.dias / kQuinta), kDiasPorMes * quinta);
     d.linea(cumple ? "También cumple el requisito de haber cotizado una quinta parte "
                    : "Pero NO CUMPLE el requisito de haber cotizado una quinta parte ");
     d.linea("del periodo mínimo dentro de los 10 años anteriores al hecho causante ");

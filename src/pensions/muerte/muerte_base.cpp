@@ -13,16 +13,16 @@ namespace orvemo::muerte {
 namespace {
 
 // Figures of the law for 2005.
-constexpr double kAniosDeHistoria = 90;   // span in which the fifteen years are looked for
+constexpr double kAniosDeHistoria = 90;  // span in which the fifteen years are looked for
 constexpr int kDiasDeQuinceAnios = 5475;
-constexpr double kAniosRecientes = 5;     // span in which the five hundred days are looked for
+constexpr double kAniosRecientes = 5;  // span in which the five hundred days are looked for
 constexpr int kDiasRecientes = 500;
-constexpr int kEnfermedadComun = 1;       // cause
-constexpr double kPagasDeDosAnios = 28;   // fourteen a year
+constexpr int kEnfermedadComun = 1;      // cause
+constexpr double kPagasDeDosAnios = 28;  // fourteen a year
 constexpr double kMesesDelAnio = 12;
 
 // Part-time work: the fewer its hours a year, the longer the span, up to ten years.
-constexpr float kHorasAlAnio = 1826;      // of full-time work
+constexpr float kHorasAlAnio = 1826;  // of full-time work
 constexpr float kAniosVentana = 5;
 constexpr float kDiasPorAnio = 365;
 constexpr double kHorasPorDia = 5;
@@ -65,8 +65,8 @@ bool cumpleTiempoParcial(const RegistroMuerte& caso, Dictamen& d) {
 }
 
 bool cumpleTiempoCompleto(const RegistroMuerte& caso, Dictamen& d) {
-    const bool cumple = pensiones::DiasCotizados(periodosDe(caso), caso.MuerteFechaMuerte,
-                                                 kAniosRecientes) >= kDiasRecientes;
+    const bool cumple =
+        pensiones::DiasCotizados(periodosDe(caso), caso.MuerteFechaMuerte, kAniosRecientes) >= kDiasRecientes;
     d.linea(cumple ? "Cumple el periodo mínimo de 500 días cotizados dentro de los últimos 5 años"
                    : "No cumple el periodo mínimo de 500 días cotizados en los últimos 5 años.");
     return cumple;

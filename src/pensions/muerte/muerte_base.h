@@ -60,8 +60,8 @@ inline constexpr Conjunto kCausasProfesionales = "24";
 
 /// What the pensions of the survivors rest on.
 struct Base {
-    double importe = 0;       ///< regulatory base, euros a month
-    std::string_view pagas;   ///< payments a year, as the lines tell them
+    double importe = 0;      ///< regulatory base, euros a month
+    std::string_view pagas;  ///< payments a year, as the lines tell them
 };
 
 /// The regulatory base by situation and cause, told in its lines. Throws DesbordeNumerico.
