@@ -17,22 +17,6 @@ using testing::IsEmpty;
 
 using PensionFrmTest = pruebas::PantallaJubilacion;
 
-// --- Opening
-
-TEST_F(PensionFrmTest, OpensCleanOnItsDefaults) {
-    EXPECT_EQ(frm.Caption(), "Cálculo de pensiones de jubilación");
-    EXPECT_EQ(frm.Titulo(), "PENSIONES DE JUBILACIÓN");
-    EXPECT_EQ(frm.actual(), &frm.JubiNombre);
-    EXPECT_EQ(frm.JubiFechaNac.texto() + ' ' + frm.JubiFechaJub.texto(), "15-06-2005 15-06-2005");
-    EXPECT_EQ(frm.JubiRegimen.texto(), "R. General");
-    EXPECT_EQ(
-        frm.JubiRedJor.texto() + frm.HorasTP.texto() + frm.HorasTP15.texto() + frm.JubiSumaBases.texto(),
-        "0000");
-    EXPECT_FALSE(frm.JubiRedJor.visible());
-    EXPECT_FALSE(frm.JubiBaseActual.visible());
-    EXPECT_FALSE(frm.JubiBasesDesglosadas.marcado());
-}
-
 TEST_F(PensionFrmTest, DoesNotOpenWithoutItsPriceIndex) {
     mundo.almacen.ficheros.clear();
     EXPECT_THROW(frm.Inicia(), FicheroInaccesible);
@@ -75,16 +59,6 @@ TEST_F(PensionFrmTest, BaseByBaseTheFramesOfTheYearShow) {
         EXPECT_TRUE(frm.JubiBase(anio.meses).visible());
         EXPECT_FALSE(frm.JubiBase(anio.meses + 1).visible());
     }
-}
-
-TEST_F(PensionFrmTest, PartialRetirementAsksForTheReductionWhateverItIs) {
-    frm.elige(frm.JubiRegimen, 4);
-    EXPECT_FALSE(frm.JubiRedJor.visible());
-    frm.elige(frm.JubiRegimen, 5);
-    EXPECT_TRUE(frm.JubiRedJor.visible());
-    escribe(frm.JubiRedJor, "150");
-    sigue();
-    EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
 }
 
 // --- Date of retirement
@@ -160,30 +134,6 @@ TEST_F(PensionFrmTest, AFirstDayChangedAfterwardsIsCaughtOnGoingOn) {
         ElementsAre("Error: La fecha de finalización del periodo no puede ser anterior a la inicial."));
     EXPECT_EQ(frm.PantallaActual(), 1);
     EXPECT_EQ(frm.actual(), &frm.periodos[3].JubiPerHasta);
-}
-
-// --- Amounts
-
-TEST_F(PensionFrmTest, AmountsOutOfTheirLimitsAreRefused) {
-    escribe(frm.JubiFechaJub, "15-06-2007");
-    ASSERT_TRUE(frm.foco(frm.JubiNombre));
-    escribe(frm.JubiBaseActual, "1000000");
-    EXPECT_FALSE(frm.foco(frm.JubiNombre));
-    frm.escribe(frm.JubiBaseActual, "999999");
-    ASSERT_TRUE(frm.foco(frm.JubiNombre));
-    escribe(frm.JubiBaseActual, "0");
-    sigue(2);
-    escribe(frm.JubiSumaBases, "100000000");
-    EXPECT_FALSE(frm.pulsa(frm.Siguiente));
-    frm.escribe(frm.JubiSumaBases, "-1");
-    EXPECT_FALSE(frm.pulsa(frm.Siguiente));
-    frm.escribe(frm.JubiSumaBases, "99999999");
-    sigue();
-    EXPECT_THAT(
-        mundo.mensajes.dichos,
-        ElementsAre("Error: El número no es correcto. Debe introducir un número entre 0 y 999,999",
-                    "Error: El número no es correcto. Debe introducir un número entre 0 y 99,999,999",
-                    "Error: El número no es correcto. Debe introducir un número entre 0 y 99,999,999"));
 }
 
 }  // namespace
