@@ -13,3 +13,6 @@ void ejemplosMaternidad(orvemo::Almacen& directorio);
 
 /// Writes "RiesgoEm.nom".
 void ejemplosRiesgoEmbarazo(orvemo::Almacen& directorio);
+
+/// Writes "nominas.nom".
+void ejemplosNominas(orvemo::Almacen& directorio);

@@ -1,10 +1,9 @@
 #include "payroll/caso/datos_a_estado.h"
 
+#include <algorithm>
 #include <array>
-#include <limits>
 #include <string_view>
 
-#include "foundations/values/fallos.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 #include "payroll/contratos/contratos.h"
@@ -21,16 +20,12 @@ constexpr std::array kMesesDe31{1, 3, 5, 7, 8, 10, 12};
 /// A text of the record as wide as its field, blanks where nothing was written.
 template <std::size_t N>
 std::string aSuAncho(const Texto<N>& texto) {
-    const std::string bytes{texto.bytes().begin(),
-                            std::find(texto.bytes().begin(), texto.bytes().end(), '\0')};
-    return AlAncho(De1252(bytes), N);
+    return AlAncho(texto.utf8SinRecortar(), N);
 }
 
-/// The place in a list as a number from 1, in a byte.
+/// The place in a list as a number from 1. Throws DesbordeNumerico.
 std::uint8_t desdeUno(std::uint8_t indice) {
-    constexpr auto kMaximo = std::numeric_limits<std::uint8_t>::max();
-    if (indice == kMaximo) throw DesbordeNumerico{kMaximo + 1.0};
-    return static_cast<std::uint8_t>(indice + 1);
+    return RedondeaPar8(indice + 1);
 }
 
 /// The share of a whole working day; whole when the field tells none.
@@ -46,13 +41,13 @@ Fecha finDeMes(int Mes) {
 
 }  // namespace
 
-Entradas DatosAEstado(const RegistroNomina& Registro, const Contratos& contratos) {
+Entradas DatosAEstado(const RegistroNomina& Registro) {
     Entradas e;
     e.Mes = desdeUno(Registro.Mes);
     e.Grupo = desdeUno(Registro.Categoria);
     e.Epigrafe = aSuAncho(Registro.Epigrafe);
     e.CodigoContrato = aSuAncho(Registro.CodigoContrato);
-    e.ClaveContrato = e.CodigoContrato.substr(0, 3);
+    e.ClaveContrato = PrimerosCaracteres(e.CodigoContrato, 3);
     e.ContratoParcial = EsContratoParcial(e.CodigoContrato);
     e.Edad = Registro.Edad;
     e.CoefPluriempleo = coefPluriempleo(Registro.Pluriempleo.utf8());
@@ -63,10 +58,6 @@ Entradas DatosAEstado(const RegistroNomina& Registro, const Contratos& contratos
     e.HEMesAnt = Registro.HEAnt;
     e.HEAnioAnt = Registro.HEAnioAnt;
     e.DiasAnt = Registro.DiasAnt;
-    e.IndiceContrato = contratos.indiceDe(e.CodigoContrato);
-    e.ModoContrato = contratos.fila(e.IndiceContrato).Modo;
-    if (e.ModoContrato == "D") e.ParcialDias = Registro.ParcialDias;
-    if (e.ModoContrato == "H") e.ParcialHoras = Registro.ParcialHoras;
     e.FechaCese = aSuAncho(Registro.FechaCese);
     e.TipoPaga = Registro.TipoPaga;
     e.DiasSemana = aSuAncho(Registro.DiasSemana);
@@ -74,6 +65,13 @@ Entradas DatosAEstado(const RegistroNomina& Registro, const Contratos& contratos
     e.Dias12 = Registro.Dias12;
     e.Base12 = Registro.Base12;
     return e;
+}
+
+void PonContrato(Entradas& entradas, const Contratos& contratos, const RegistroNomina& Registro) {
+    entradas.IndiceContrato = contratos.indiceDe(entradas.CodigoContrato);
+    entradas.ModoContrato = contratos.fila(entradas.IndiceContrato).Modo;
+    if (entradas.ModoContrato == "D") entradas.ParcialDias = Registro.ParcialDias;
+    if (entradas.ModoContrato == "H") entradas.ParcialHoras = Registro.ParcialHoras;
 }
 
 void PonFechas(Entradas& entradas, const RegistroNomina& Registro) {

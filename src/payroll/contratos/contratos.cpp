@@ -1,7 +1,6 @@
 #include "payroll/contratos/contratos.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "foundations/values/fallos.h"
 #include "foundations/values/formatos.h"
@@ -41,12 +40,6 @@ std::int32_t plazo(std::int32_t anios) {
     return anios == 0 ? kSinPlazo : anios;
 }
 
-std::int32_t enByte(std::int32_t anios) {
-    if (!EntreLimites(anios, 0, int{std::numeric_limits<std::uint8_t>::max()}))
-        throw DesbordeNumerico{anios * 1.0};
-    return anios;
-}
-
 TramoIncentivo tomaTramo(std::string& linea) {
     const double Pct = ValComa(CortaCampo(linea, kSeparador));
     return {Pct, RedondeaPar(ValComa(CortaCampo(linea, kSeparador)))};
@@ -64,7 +57,7 @@ ContratoNomina leeContrato(std::string Codigo, std::string linea, const Recargo&
     fila.tramo1 = tomaTramo(linea);
     fila.tramo2 = tomaTramo(linea);
     fila.tramo3 = tomaTramo(linea);
-    fila.tramo1.Anios = plazo(enByte(fila.tramo1.Anios));
+    fila.tramo1.Anios = plazo(RedondeaPar8(fila.tramo1.Anios));
     fila.tramo2.Anios = plazo(fila.tramo2.Anios);
     fila.tramo3.Anios = plazo(fila.tramo3.Anios);
     fila.RecargoEmpresa = recargo.empresa;
