@@ -63,7 +63,7 @@ class Apertura {
     void imprime(const Almacen& almacen, std::filesystem::path pdf) {
         rutinas_.ponLogo(imagenDe(almacen, "logo.bmp"));
         impresora_.ponRuta(std::move(pdf));
-        calculadora_->pulsa(calculadora_->BotonPrint);
+        calculadora_->imprime();
     }
 
   private:
@@ -125,6 +125,10 @@ class Lote {
         if (asistente != nullptr && calculadora.PantallaActual() == calculadora.ultimaPantalla()) {
             resultado.derecho = asistente->ConDerecho();
             resultado.conclusion = asistente->textoConclusion();
+        }
+        if (asistente == nullptr) {
+            resultado.conDictamen = false;
+            resultado.conclusion = calculadora.textoResultados();
         }
         if (!opciones_.json) return;
         resultado.miembros = ",\"campos\":";

@@ -34,7 +34,8 @@ void EscribeTexto(std::string& salida, const Resultado& resultado) {
     salida += "Nombre: " + ControlesALaVista(resultado.nombre) + '\n';
     if (resultado.conclusion.empty()) salida += '\n';
     agregaLineas(salida, resultado.conclusion);
-    salida += resultado.derecho ? "[CON DERECHO]\n\n" : "[SIN DERECHO]\n\n";
+    if (resultado.conDictamen) salida += resultado.derecho ? "[CON DERECHO]\n" : "[SIN DERECHO]\n";
+    salida += '\n';
 }
 
 void EscribeJson(std::string& salida, const Resultado& resultado) {

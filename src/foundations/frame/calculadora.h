@@ -52,8 +52,12 @@ class Calculadora : public Formulario {
     virtual void agregaResultados(std::string& /*json*/) const {}
     void CargaCaso();
     void GrabaCaso();
+    /// The results as people read them, where they aren't conclusions.
+    [[nodiscard]] virtual std::string textoResultados() const { return {}; }
     /// The report, from what stands on the screen, to any target.
     virtual void ImprimeInforme(RutinasImpresion& rutinas) = 0;
+    /// The printing flow: asks for a target, prints the report there, says how it ended.
+    void imprime();
     /// Writes the buffer into the first free slot or at the end. Throws FicheroInaccesible.
     void DatosAppendRegistro();
     /// Writes the buffer over record r; with r = 0 over the record of its name. Says nothing: false when
@@ -82,8 +86,6 @@ class Calculadora : public Formulario {
     /// What `BotonPrint` does.
     virtual void alImprimir() { imprime(); }
 
-    /// The printing flow: asks for a target, prints the report there, says how it ended.
-    void imprime();
     [[nodiscard]] ArchivoSupuestos archivo() const;
 
   private:

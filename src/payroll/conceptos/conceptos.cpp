@@ -19,7 +19,6 @@ constexpr FlagsConcepto kVacaciones  { true,    false,  false,     true,    true
 constexpr FlagsConcepto kEspecie     { true,    false,  false,     true,    true,    false};
 constexpr FlagsConcepto kHorasExtra  { true,    false,  false,     false,   true,    true };
 constexpr FlagsConcepto kPaga        { true,    false,  false,     false,   false,   true };
-constexpr FlagsConcepto kPremio      { true,    false,  false,     false,   false,   false};
 constexpr FlagsConcepto kComputable  { false,   false,  false,     true,    true,    true };
 constexpr FlagsConcepto kSoloTributa { false,   false,  false,     false,   false,   true };
 constexpr FlagsConcepto kExento      { false,   false,  false,     false,   false,   false};

@@ -1,0 +1,414 @@
+#include "payroll/pantallas/nomina_frm.h"
+
+#include <utility>
+
+#include "foundations/frame/declaraciones.h"
+#include "payroll/conceptos/conceptos.h"
+#include "payroll/finiquito/causas.h"
+#include "payroll/pantallas/paneles.h"
+#include "payroll/validaciones/rangos.h"
+
+namespace orvemo {
+
+using namespace nomina;
+
+namespace {
+
+constexpr int kAnchoCifra = 28;
+constexpr int kAnchoTexto = 40;
+
+// Stored with the blanks that the list has had since ever.
+const std::vector<std::string> kCategorias{
+    "1. Ingenieros y licenciados             ", "2. Ing. técnicos, peritos y ayud. titul. ",
+    "3. Jefes administrativos y de taller    ", "4. Ayudantes no titulados               ",
+    "5. Oficiales administrativos            ", "6. Subalternos                          ",
+    "7. Auxiliares administrativos           ", "8. Oficiales de 1ª y 2ª                 ",
+    "9. Oficiales de 3ª y especialistas      ", "10. Peones                               ",
+    "11. Trabajadores menores de 18 años      "};
+
+const std::vector<std::string> kMeses{" 1. Enero",      " 2. Febrero", " 3. Marzo",     " 4. Abril",
+                                      " 5. Mayo",       " 6. Junio",   " 7. Julio",     " 8. Agosto",
+                                      " 9. Septiembre", "10. Octubre", "11. Noviembre", "12. Diciembre"};
+
+}  // namespace
+
+NominaFrm::NominaFrm(Entorno& entorno)
+    : CalculadoraDe{entorno,
+                    {.titulo = "SUPUESTOS DE NÓMINAS Y SEGUROS SOCIALES",
+                     .caption = "Cálculo de Nóminas",
+                     .fichero = "nominas.nom",
+                     .subtitulos = {"Datos del contrato", "Datos adicionales para diversas contingencias",
+                                    "Datos adicionales para el finiquito", "Recibo de nóminas del trabajador",
+                                    "Datos para el impreso TC/2", "Datos para el impreso TC/1",
+                                    "Datos para el impreso TC/1 (Situación de Desempleo Parcial)",
+                                    "Impresión"},
+                     .campoNombre = "NomiNombre",
+                     .prefijoBarra = "Nomi"}},
+      listaConceptos_{ListaConceptos()},
+      listaIncidencias_{ListaIncidencias()} {
+    ponPanel(kContrato, {.denso = true});
+    declaraContrato();
+    declaraPagas();
+    declaraConceptos();
+    declaraIncidencias();
+    declaraExtraYParcial();
+    declaraBaja();
+    declaraFiniquito();
+    declaraRecibo();
+    declaraFormularios();
+    declaraSalida();
+    enlazaContrato();
+    enlazaFilas();
+    enlazaAdicionales();
+    enlazaFiniquito();
+}
+
+// --- Kinds of field
+
+/// A number with the range, the message and the pattern of its name.
+Campo& NominaFrm::numero(std::string nombre, std::string rotulo, DefCampo sitio) {
+    const RangoNumero& rango = RangoDe(nombre);
+    sitio.nombre = std::move(nombre);
+    sitio.rotulo = std::move(rotulo);
+    sitio.filtro = TeclaNumero;
+    sitio.formato = rango.formato;
+    sitio.alSalir = [this, &rango](Campo& campo) { rechaza(campo, CompruebaNumero(rango, campo.texto())); };
+    return nuevo(std::move(sitio));
+}
+
+/// A typed date with a calendar.
+Campo& NominaFrm::fecha(std::string nombre, std::string rotulo, DefCampo sitio) {
+    sitio.nombre = std::move(nombre);
+    sitio.rotulo = std::move(rotulo);
+    sitio.clase = Clase::FechaEscrita;
+    return nuevo(std::move(sitio));
+}
+
+/// A figure that only the program writes.
+Campo& NominaFrm::cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice) {
+    DefCampo def = resultado(std::move(nombre), std::move(rotulo), {}, kAnchoCifra, &grupo);
+    def.indice = indice;
+    def.pantalla = grupo.def().pantalla;
+    return nuevo(std::move(def));
+}
+
+/// A text that only the program writes.
+void NominaFrm::leyenda(std::string nombre, Grupo& grupo, int indice) {
+    nuevo({.nombre = std::move(nombre),
+           .indice = indice,
+           .pantalla = grupo.def().pantalla,
+           .grupo = &grupo,
+           .anchura = kAnchoTexto})
+        .ponActivo(false);
+}
+
+Campo& NominaFrm::boton(std::string nombre, std::string rotulo, int pantalla, void (NominaFrm::*accion)()) {
+    return nuevo({.nombre = std::move(nombre),
+                  .rotulo = std::move(rotulo),
+                  .clase = Clase::Boton,
+                  .pantalla = pantalla,
+                  .alPulsar = [this, accion](Campo&) { (this->*accion)(); }});
+}
+
+void NominaFrm::botonesDe(int pantalla, const char* anterior, const char* siguiente) {
+    const auto lleva = [this](const char* nombre, const char* rotulo, int desde, int hasta) {
+        nuevo({.nombre = nombre,
+               .rotulo = rotulo,
+               .clase = Clase::Boton,
+               .pantalla = desde,
+               .alPulsar = [this, hasta](Campo&) { MuestraPantalla(hasta); }});
+    };
+    lleva(anterior, "(Pantalla Anterior...)", pantalla, pantalla == kRecibo ? kContrato : pantalla - 1);
+    if (siguiente != nullptr) lleva(siguiente, "(Continuación...)", pantalla, pantalla + 1);
+}
+
+// --- Panel 0
+
+void NominaFrm::declaraContrato() {
+    Grupo& g = nuevoGrupo({.nombre = "Contrato", .disposicion = Disposicion::Columnas, .columnas = 2});
+    nuevo(texto("NomiNombre", "Nombre:", {}, &g)).ponDefecto();
+    DefCampo epigrafe = lista("NomiEpigrafe", "Epígrafe para A.T. y E.P.", {});
+    DefCampo categoria =
+        lista("NomiCategoria", "Grupo de Cotización:", kCategorias, [this](Campo&) { avisaExtras(); });
+    DefCampo grupo =
+        lista("TipoContrato", "Tipo de contrato:", {}, [this](Campo&) { cambiaGrupoContrato(); });
+    DefCampo contrato = lista("NomiContrato", "Sub-Tipo:", {}, [this](Campo&) { ajustaCamposContrato(); });
+    DefCampo paga = lista("NomiTipoPaga", "Tipo de paga:", {"1. Paga normal", "2. Paga extraordinaria"});
+    DefCampo mes = lista("NomiMes", "Mes Nómina:", kMeses);
+    for (DefCampo* def : {&epigrafe, &categoria, &grupo, &contrato, &paga}) {
+        def->grupo = &g;
+        nuevo(*def);
+    }
+    numero("NomiDesempleo", "Coeficiente Desempleo Parcial:", {.grupo = &g, .largo = 8});
+    numero("NomiPluriempleo", "% Pluriempleo / Jornada Reducida:", {.grupo = &g, .largo = 6});
+    mes.grupo = &g;
+    nuevo(mes);
+    fecha("NomiFechaAlta", "Fecha de Inicio",
+          {.grupo = &g, .defecto = std::string{kPrimerDiaAnio}, .alSalir = [this](Campo& c) {
+               aplica(c, CompruebaFechaAlta(c.texto()));
+           }});
+    fecha("NomiFechaBaja", "F. de Cese",
+          {.grupo = &g, .alSalir = [this](Campo& c) {
+               aplica(c, CompruebaCese(c.texto(), campo("NomiFechaAlta").texto(), this->mes()));
+           }});
+    numero("NomiEdad", "Edad:", {.grupo = &g, .defecto = "25"});
+}
+
+void NominaFrm::declaraPagas() {
+    Grupo& g = nuevoGrupo({.nombre = "Pagas", .disposicion = Disposicion::Columnas, .columnas = 2});
+    for (int i = 0; i < 2; ++i) {
+        numero("NomiNumPagas", "Pagas extra:", {.indice = i, .grupo = &g, .defecto = i == 0 ? "2" : "0"});
+        Campo& paga = numero("NomiPagaExtra", "pagas de ", {.indice = i, .grupo = &g, .defecto = "0"});
+        static_cast<void>(paga);
+    }
+    numero("NomiIRPFExtra", "% IRPF:", {.grupo = &g, .defecto = "0"});
+}
+
+void NominaFrm::declaraConceptos() {
+    Grupo& g = nuevoGrupo({.nombre = "Conceptos",
+                           .titulo = "Conceptos del recibo de salario",
+                           .disposicion = Disposicion::Tabla,
+                           .columnas = 5,
+                           .encabezados = {"Código", "", "Concepto", "Importe", "Período"}});
+    for (int i = 0; i < kConceptos; ++i) {
+        nuevo({.nombre = "NomiConcepto",
+               .indice = i,
+               .grupo = &g,
+               .largo = 2,
+               .filtro = TeclaMayuscula,
+               .alSalir = [this, i](Campo&) { dejaConcepto(concepto(i)); },
+               .anchura = 3});
+        DefCampo ayuda = interrogacion("NomiConceptoAyuda", "Lista de conceptos", [this, i](Campo&) {
+            muestraAyuda("NomiConceptos", concepto(i).codigo);
+        });
+        ayuda.indice = i;
+        ayuda.grupo = &g;
+        ayuda.mismaLinea = false;
+        nuevo(std::move(ayuda));
+        leyenda("NomiTextoConcepto", g, i);
+        nuevo({.nombre = "NomiImporte",
+               .indice = i,
+               .grupo = &g,
+               .filtro = TeclaNumero,
+               .formato = "##,###,##0.00",
+               .alSalir = [this, i](Campo&) { compruebaImporte(concepto(i)); },
+               .anchura = 12});
+        nuevo({.nombre = "NomiPeriod",
+               .indice = i,
+               .grupo = &g,
+               .largo = 1,
+               .filtro = TeclaMayuscula,
+               .alSalir =
+                   [this](Campo& c) {
+                       if (c.activo()) rechaza(c, CompruebaPeriodo(c.texto()));
+                   },
+               .anchura = 2});
+    }
+    nuevo({.nombre = "NomiConceptos",
+           .clase = Clase::ListaAbierta,
+           .opciones = listaConceptos_,
+           .alPulsar = [this](Campo& l) { copiaCodigo(l, 2); },
+           .visible = false});
+}
+
+void NominaFrm::declaraIncidencias() {
+    Grupo& g = nuevoGrupo({.nombre = "Incidencias",
+                           .titulo = "Incidencias del mes",
+                           .disposicion = Disposicion::Tabla,
+                           .columnas = 5,
+                           .encabezados = {"Código", "", "Incidencia", "del día", "al"}});
+    for (int i = 0; i < kIncidencias; ++i) {
+        nuevo({.nombre = "NomiIncidencia",
+               .indice = i,
+               .grupo = &g,
+               .largo = 1,
+               .alSalir = [this, i](Campo&) { dejaIncidencia(incidencia(i)); },
+               .anchura = 3});
+        DefCampo ayuda = interrogacion("NomiInciAyuda", "Lista de incidencias", [this, i](Campo&) {
+            muestraAyuda("NomiIncidencias", incidencia(i).codigo);
+        });
+        ayuda.indice = i;
+        ayuda.grupo = &g;
+        ayuda.mismaLinea = false;
+        nuevo(std::move(ayuda));
+        leyenda("NomiTextoIncidencia", g, i);
+        nuevo({.nombre = "NomiFechaInci1",
+               .indice = i,
+               .grupo = &g,
+               .largo = 2,
+               .filtro = TeclaDigito,
+               .alSalir = [this, i](Campo&) { compruebaDia1(incidencia(i)); },
+               .anchura = 3});
+        nuevo({.nombre = "NomiFechaInci2",
+               .indice = i,
+               .grupo = &g,
+               .largo = 2,
+               .filtro = TeclaDigito,
+               .alSalir =
+                   [this, i](Campo& c) {
+                       const FilaIncidencia f = incidencia(i);
+                       aplica(c, CompruebaDiaInci2(f.codigo.texto(), f.dia1.texto(), f.dia2.texto(), mes()));
+                   },
+               .anchura = 3});
+    }
+    nuevo({.nombre = "NomiIncidencias",
+           .clase = Clase::ListaAbierta,
+           .opciones = listaIncidencias_,
+           .alPulsar = [this](Campo& l) { copiaCodigo(l, 1); },
+           .visible = false});
+    boton("NomiSig0", "(Continuación...)", kContrato, &NominaFrm::dejaContrato);
+}
+
+// --- Panel 1
+
+void NominaFrm::declaraExtraYParcial() {
+    Grupo& extra = nuevoGrupo(
+        {.nombre = "NomiExtraLbl",
+         .titulo = "-> Periodo mínimo de alta requerido para recibir la gratificación extraordinaria:",
+         .pantalla = kAdicionales});
+    grupoExtra_ = &extra;
+    fecha("NomiFechaExtra1", "Del día:",
+          {.pantalla = kAdicionales,
+           .grupo = &extra,
+           .defecto = std::string{kPrimerDiaAnio},
+           .alSalir = [this](Campo& c) { aplica(c, CompruebaFechaIniExtra(c.texto())); }});
+    fecha("NomiFechaExtra2", "hasta el día:",
+          {.pantalla = kAdicionales,
+           .grupo = &extra,
+           .defecto = std::string{kFinPrimerSemestre},
+           .alSalir = [this](Campo& c) {
+               aplica(c, CompruebaFechaFinExtra(c.texto(), campo("NomiFechaExtra1").texto()));
+           }});
+    numero("NomiParcialDias",
+           "-> Días trabajados en el mes a liquidar:", {.pantalla = kAdicionales, .defecto = "0"});
+    numero("NomiParcialHoras",
+           "-> Horas trabajadas en el mes a liquidar:", {.pantalla = kAdicionales, .defecto = "0"});
+    nuevo({.nombre = "NomiPromedio6Meses",
+           .rotulo = "-> Promedio de las bases de contingencias durante los últimos 6 meses:",
+           .pantalla = kAdicionales,
+           .defecto = "0",
+           .filtro = TeclaNumero,
+           .alSalir = [this](Campo& c) { rechaza(c, CompruebaPromedio(c.texto())); }});
+}
+
+void NominaFrm::declaraBaja() {
+    Grupo& g = nuevoGrupo({.nombre = "Baja", .pantalla = kAdicionales});
+    grupoBaja_ = &g;
+    const DefCampo sitio{.pantalla = kAdicionales, .grupo = &g, .defecto = "0"};
+    numero("NomiBaseCCAnt", "", sitio);
+    numero("NomiBaseATEPAnt", "", sitio);
+    numero("NomiHEAnt", "-> Horas extra del mes anterior al inicio de la baja:", sitio);
+    numero("NomiHEAñoAnt", "-> Horas extra del año anterior al inicio de la baja:", sitio);
+    nuevo({.nombre = "NomiDiasAnt",
+           .pantalla = kAdicionales,
+           .grupo = &g,
+           .defecto = "0",
+           .filtro = TeclaDigito,
+           .formato = "#0",
+           .alSalir = [this](Campo& c) { rechaza(c, CompruebaDiasAnt(c.texto(), mes())); }});
+    nuevo({.nombre = "NomiDiasSemana",
+           .rotulo = "Días de la semana trabajados:",
+           .pantalla = kAdicionales,
+           .grupo = &g,
+           .defecto = "LMWJVSD",
+           .largo = 7,
+           .filtro = TeclaMayuscula});
+    DefCampo horas = sitio;
+    horas.defecto = "6";
+    numero("NomiHorasDiarias", "-> Horas diarias del contrato:", horas);
+    numero("NomiDias12", "-> Días cotizados en los 12 meses anteriores al inicio del descanso:", sitio);
+    numero("NomiBase12",
+           "-> Base de contingencias durante los 12 meses anteriores al inicio descanso:", sitio);
+    nuevo({.nombre = "NomiAnt1",
+           .rotulo = "(Pantalla Anterior...)",
+           .clase = Clase::Boton,
+           .pantalla = kAdicionales,
+           .alPulsar = [this](Campo&) { MuestraPantalla(kContrato); }});
+    boton("NomiSig1", "(Continuación...)", kAdicionales, &NominaFrm::dejaAdicionales);
+}
+
+// --- Panel 2
+
+void NominaFrm::declaraFiniquito() {
+    DefCampo causa =
+        lista("NomiFTipoDes", "Causa del cese:", CausasCese(), [this](Campo&) { proponeCese(); });
+    causa.pantalla = kFiniquito;
+    nuevo(causa);
+    DefCampo extincion =
+        casilla("NomiFExtincion", "Calcular Indemnización/Compensación por la extinción del contrato");
+    DefCampo preaviso =
+        casilla("NomiFPreaviso",
+                "Calcular indemnización por falta de preaviso reglamentario con 30 días de antelación");
+    extincion.pantalla = preaviso.pantalla = kFiniquito;
+    nuevo(extincion);
+    nuevo(preaviso);
+    const DefCampo sitio{.pantalla = kFiniquito, .defecto = "0"};
+    numero("NomiFDiasInd", "Días legales por año trabajado:", sitio);
+    numero("NomiFDiasCom", "Días de compensación adicional (con IRPF):", sitio);
+    numero("NomiFMaxInd", "Máximo de meses:", sitio);
+    Grupo& vacaciones = nuevoGrupo({.nombre = "Vacaciones",
+                                    .titulo = "Vacaciones",
+                                    .pantalla = kFiniquito,
+                                    .disposicion = Disposicion::Columnas,
+                                    .columnas = 2});
+    declaraPeriodo({"NomiFVac1", "NomiFVac2"}, vacaciones, 0);
+    nuevo({.nombre = "NomiFImpVac",
+           .rotulo = "Salario real:",
+           .pantalla = kFiniquito,
+           .grupo = &vacaciones,
+           .defecto = "0",
+           .filtro = TeclaDigito});
+    numero("NomiFDiasVac",
+           "Días disfrutados:", {.pantalla = kFiniquito, .grupo = &vacaciones, .defecto = "0"});
+    declaraExtrasFin();
+    boton("NomiAnt2", "(Pantalla Anterior...)", kFiniquito, &NominaFrm::vuelveDelFiniquito);
+    boton("NomiSig2", "(Continuación...)", kFiniquito, &NominaFrm::CalculaSupuesto);
+}
+
+void NominaFrm::declaraExtrasFin() {
+    Grupo& g = nuevoGrupo({.nombre = "ExtrasFin",
+                           .titulo = "Pagas extra",
+                           .pantalla = kFiniquito,
+                           .disposicion = Disposicion::Tabla,
+                           .columnas = 4,
+                           .encabezados = {"Concepto", "Desde", "Hasta", "Importe"}});
+    const char* conceptos[] = {"P.P. Verano", "P.P. Navidad", "P.P. Beneficios", "P.P. Otros conceptos"};
+    for (int i = 0; i < kExtrasFin; ++i) {
+        nuevo({.nombre = "NomiFConcepto",
+               .indice = i,
+               .pantalla = kFiniquito,
+               .grupo = &g,
+               .defecto = conceptos[i],
+               .largo = 40});
+        declaraPeriodo({"NomiFFec1", "NomiFFec2"}, g, i);
+        nuevo({.nombre = "NomiFImporte",
+               .indice = i,
+               .pantalla = kFiniquito,
+               .grupo = &g,
+               .defecto = "0",
+               .filtro = TeclaNumero,
+               .formato = "#,###,##0.00",
+               .anchura = 12});
+    }
+}
+
+/// Both ends of a period, the year by default.
+void NominaFrm::declaraPeriodo(std::pair<const char*, const char*> nombres, Grupo& grupo, int indice) {
+    const auto [primera, segunda] = nombres;
+    fecha(primera, grupo.def().encabezados.empty() ? "Del día:" : "",
+          {.indice = indice,
+           .pantalla = kFiniquito,
+           .grupo = &grupo,
+           .defecto = std::string{kPrimerDiaAnio},
+           .alSalir = [this](Campo& c) { aplica(c, CompruebaFechaPeriodo1(c.texto())); }});
+    fecha(segunda, grupo.def().encabezados.empty() ? "al:" : "",
+          {.indice = indice,
+           .pantalla = kFiniquito,
+           .grupo = &grupo,
+           .defecto = std::string{kUltimoDiaAnio},
+           .alSalir = [this, primera, indice](Campo& c) {
+               aplica(c, CompruebaFechaPeriodo2(c.texto(), campo(primera, indice).texto()));
+           }});
+}
+
+}  // namespace orvemo

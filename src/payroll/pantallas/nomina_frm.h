@@ -1,0 +1,146 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "foundations/frame/calculadora.h"
+#include "payroll/caso/estado_nomina.h"
+#include "payroll/caso/nomina_registro.h"
+#include "payroll/caso/opciones_impresion.h"
+#include "payroll/pantallas/enlaces.h"
+#include "payroll/recibo/recibo.h"
+#include "payroll/validaciones/adicionales.h"
+#include "payroll/validaciones/fechas_nomina.h"
+
+namespace orvemo {
+
+/// "SUPUESTOS DE NÓMINAS Y SEGUROS SOCIALES": the contract and the month, what a leave and a settlement need
+/// besides, the receipt and the figures of the contribution forms.
+class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDiseno> {
+  public:
+    explicit NominaFrm(Entorno& entorno);
+
+    /// Reads the lists of contracts and epigraphs and the company's data. Throws FicheroInaccesible.
+    void Inicia() override;
+    void LimpiaDatos() override;
+    /// Computes the case as it was loaded and shows its receipt, whatever panels would come between.
+    void concluye() override;
+    void ImprimeInforme(RutinasImpresion& rutinas) override;
+    void agregaResultados(std::string& json) const override;
+    [[nodiscard]] std::string textoResultados() const override;
+
+    [[nodiscard]] const nomina::EstadoNomina& Estado() const { return estado_; }
+
+  protected:
+    void tomaCampos() override;
+    void cargaCampos() override;
+    void alImprimir() override;
+
+  private:
+    struct FilaConcepto {
+        Campo &codigo, &texto, &importe, &periodo;
+    };
+    struct FilaIncidencia {
+        Campo &codigo, &texto, &dia1, &dia2;
+    };
+
+    // --- Declaration
+    void declaraContrato();
+    void declaraPagas();
+    void declaraConceptos();
+    void declaraIncidencias();
+    void declaraExtraYParcial();
+    void declaraBaja();
+    void declaraFiniquito();
+    void declaraExtrasFin();
+    void declaraPeriodo(std::pair<const char*, const char*> nombres, Grupo& grupo, int indice);
+    void declaraRecibo();
+    void declaraFormularios();
+    void declaraSalida();
+    void enlazaContrato();
+    void enlazaFilas();
+    void enlazaAdicionales();
+    void enlazaFiniquito();
+    Campo& numero(std::string nombre, std::string rotulo, DefCampo sitio);
+    Campo& fecha(std::string nombre, std::string rotulo, DefCampo sitio);
+    Campo& cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice = 0);
+    void leyenda(std::string nombre, Grupo& grupo, int indice);
+    Campo& boton(std::string nombre, std::string rotulo, int pantalla, void (NominaFrm::*accion)());
+    /// The pair that leaves a panel of results.
+    void botonesDe(int pantalla, const char* anterior, const char* siguiente);
+
+    // --- Checks and reactions
+    void rechaza(Campo& campo, std::string_view mensaje);
+    void aplica(Campo& campo, const nomina::Revision& revision);
+    void dejaConcepto(FilaConcepto fila);
+    void dejaIncidencia(FilaIncidencia fila);
+    void proponePeriodo(FilaConcepto fila, char Periodicidad);
+    void compruebaImporte(FilaConcepto fila);
+    void compruebaDia1(FilaIncidencia fila);
+    void muestraAyuda(std::string_view lista, Campo& destino);
+    void copiaCodigo(Campo& lista, std::size_t ancho);
+    void cambiaGrupoContrato();
+    void ajustaCamposContrato();
+    void avisaExtras();
+    void proponeCese();
+
+    void cargaContrato(const std::string& Codigo);
+    void cargaConcepto(FilaConcepto fila);
+    void cargaIncidencia(FilaIncidencia fila);
+
+    // --- What stands on the screen
+    [[nodiscard]] FilaConcepto concepto(int i);
+    [[nodiscard]] FilaIncidencia incidencia(int i);
+    [[nodiscard]] int mes();
+    [[nodiscard]] bool cobraPorDias();
+    [[nodiscard]] std::int32_t IndiceContrato();
+    [[nodiscard]] std::string CodigoContrato();
+    [[nodiscard]] bool hayIncidencia(std::string_view codigos);
+    [[nodiscard]] bool hayPeriodo(std::string_view letra);
+    [[nodiscard]] bool hayDesempleoParcial();
+
+    // --- Road among the panels
+    [[nodiscard]] bool NecesitaExtra();
+    [[nodiscard]] bool NecesitaBaja();
+    [[nodiscard]] bool NecesitaParcial();
+    [[nodiscard]] bool NecesitaModo();
+    [[nodiscard]] bool NecesitaFiniquito();
+    void preparaAdicionales();
+    void AjustaCaptions();
+    void dejaContrato();
+    void dejaAdicionales();
+    void calculaOFiniquito();
+    void vuelveDelFiniquito();
+    [[nodiscard]] bool necesitaAdicionales();
+    [[nodiscard]] bool CompruebaAdicionales();
+    void CalculaSupuesto();
+
+    // --- Results
+    void calculaYMuestra();
+    void MuestraRecibo();
+    void MuestraAportaciones();
+    void MuestraTC2();
+    void MuestraTC1();
+    void MuestraTC13();
+    void pon(std::string_view nombre, double euros, int indice = 0);
+    void ponLineas(const std::vector<nomina::LineaRecibo>& lineas, const char* texto, const char* euros,
+                   int sitio);
+    void explicaExtras();
+
+    // --- Printing
+    void cargaOpciones();
+    void ImpresionImprime();
+
+    nomina::TablasNomina tablas_;
+    nomina::EstadoNomina estado_;
+    std::vector<nomina::Enlace> enlaces_;
+    std::vector<std::string> listaConceptos_, listaIncidencias_;
+    Grupo* grupoExtra_ = nullptr;              ///< period of the extra pay
+    Grupo* grupoBaja_ = nullptr;               ///< what a leave needs
+    Campo* destinoAyuda_ = nullptr;            ///< field that an open help list fills
+};
+
+}  // namespace orvemo
