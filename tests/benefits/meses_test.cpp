@@ -38,8 +38,9 @@ Registro caso(int Situacion, int DM, Fecha f1) {
 std::array<std::string, 3> bases(int Situacion, int DM, Fecha f1) {
     Dictamen incapacidad, descanso, riesgo;
     auto baja = caso<incapacidad_temporal::RegistroIncapacidad>(Situacion, DM, f1);
-    incapacidad_temporal::CalculaIncapacidad(baja, {}, incapacidad);
-    maternidad::CalculaMaternidad(caso<maternidad::RegistroMaternidad>(Situacion, DM, f1), {}, descanso);
+    incapacidad_temporal::CalculaIncapacidad(baja, "", incapacidad);
+    maternidad::CalculaMaternidad(caso<maternidad::RegistroMaternidad>(Situacion, DM, f1),
+                                  maternidad::Jornada::Completa, descanso);
     riesgo_embarazo::CalculaRiesgoEmbarazo(caso<riesgo_embarazo::RegistroRiesgo>(Situacion, DM, f1), riesgo);
     return {baseEn(incapacidad), baseEn(descanso), baseEn(riesgo)};
 }

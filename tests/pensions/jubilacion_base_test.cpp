@@ -17,7 +17,7 @@ using pruebas::tablasPlanas;
 TEST(FechaReferencia, FollowsTheLastContributionOfTheGeneralScheme) {
     struct Caso {
         const char* historia;
-        UltimosDias dias;
+        std::array<std::string, kFilasPeriodos> dias;
         const char* referencia;
         const char* jubilacion = "15-06-2005";
         Regimen regimen = Regimen::General;

@@ -53,9 +53,9 @@ class PantallaJubilacion : public testing::Test {
         escribe(frm.JubiFechaNac, "15-06-1940");
         escribe(frm.JubiFechaJub, "15-06-2005");
         sigue();
-        escribe(frm.periodos[0].JubiPerDesde, "1/1/1970");
-        escribe(frm.periodos[0].JubiPerHasta, "31/5/2005");
-        escribe(frm.periodos[0].JubiPerEmpresa, "Fábrica de Hilos");
+        escribe(frm.periodos[0].PerDesde, "1/1/1970");
+        escribe(frm.periodos[0].PerHasta, "31/5/2005");
+        escribe(frm.periodos[0].PerEmpresa, "Fábrica de Hilos");
         sigue();
         escribe(frm.JubiSumaBases, "210000");
     }

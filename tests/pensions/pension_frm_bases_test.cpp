@@ -23,8 +23,8 @@ TEST_F(BasesJubilacionTest, LinesBearTheirMonths) {
     sigue();
     EXPECT_EQ(frm.JubiBase(1).rotulo(), "01. may-05");
     EXPECT_EQ(frm.JubiBase(180).rotulo(), "180. jun-90");
-    escribe(frm.periodos[0].JubiPerDesde, "01-01-1970");
-    escribe(frm.periodos[0].JubiPerHasta, "20-04-2005");
+    escribe(frm.periodos[0].PerDesde, "01-01-1970");
+    escribe(frm.periodos[0].PerHasta, "20-04-2005");
     sigue();
     EXPECT_EQ(frm.JubiBase(1).rotulo(), "01. mar-05") << "counted anew on leaving the periods";
 }

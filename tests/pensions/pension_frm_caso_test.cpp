@@ -29,7 +29,7 @@ class CasoJubilacionTest : public pruebas::PantallaJubilacion {
         sigue();
         escribe(frm.HorasTP, "1000,5");
         escribe(frm.HorasTP15, "500");
-        escribe(frm.periodos[9].JubiPerHasta, "31-12-2003");
+        escribe(frm.periodos[9].PerHasta, "31-12-2003");
         sigue();
         frm.marca(frm.JubiBasesDesglosadas, true);
         frm.JubiBaseActual.ponTexto("750,25");
@@ -65,7 +65,7 @@ TEST_F(CasoJubilacionTest, ASavedCaseComesBackAsItWas) {
     const std::string primero = mundo.almacen["jubila.nom"];
 
     ASSERT_TRUE(frm.pulsa(frm.BotonNuevo));
-    EXPECT_EQ(frm.periodos[0].JubiPerDesde.texto() + frm.JubiBase(1).texto(), "0");
+    EXPECT_EQ(frm.periodos[0].PerDesde.texto() + frm.JubiBase(1).texto(), "0");
     EXPECT_FALSE(frm.JubiRedJor.visible());
     vista.alCargar = [](CargaSupuesto& dialogo) {
         dialogo.selecciona(0);
@@ -92,7 +92,7 @@ TEST_F(CasoJubilacionTest, ARecordOfRubbishIsShownAndNothingFails) {
     EXPECT_TRUE(frm.Mal.visible());
     frm.DatosCargaRegistro(2);
     EXPECT_EQ(frm.JubiFechaNac.texto(), "30-12-1899");
-    EXPECT_EQ(frm.periodos[0].JubiPerDesde.texto(), "");
+    EXPECT_EQ(frm.periodos[0].PerDesde.texto(), "");
     frm.MuestraPantalla(frm.ultimaPantalla());
     EXPECT_THAT(frm.textoConclusion(),
                 testing::StartsWith("El interesado desea jubilarse a los 0 años.\r\n"));

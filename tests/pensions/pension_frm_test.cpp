@@ -97,11 +97,11 @@ TEST_F(PensionFrmTest, APeriodIsRefusedWithItsReason) {
         {"1-1-2000", "31-2-2000", "Error: La fecha no es correcta. Debe ser de tipo dd-mm-aaaa"},
     };
     sigue();
-    Campo& hasta = frm.periodos[0].JubiPerHasta;
+    Campo& hasta = frm.periodos[0].PerHasta;
     for (const Fila& fila : filas) {
         mundo.mensajes.dichos.clear();
         escribe(hasta, "1-1-2010");
-        escribe(frm.periodos[0].JubiPerDesde, fila.desde);
+        escribe(frm.periodos[0].PerDesde, fila.desde);
         escribe(hasta, fila.hasta);
         EXPECT_FALSE(frm.foco(frm.HorasTP));
         EXPECT_THAT(mundo.mensajes.dichos, ElementsAre(fila.mensaje));
@@ -113,27 +113,27 @@ TEST_F(PensionFrmTest, APeriodIsRefusedWithItsReason) {
 
 TEST_F(PensionFrmTest, AGoodPeriodIsRewrittenAndABlankOnePasses) {
     sigue();
-    escribe(frm.periodos[0].JubiPerDesde, "1/1/70");
-    escribe(frm.periodos[0].JubiPerHasta, "1-1-1970");
-    escribe(frm.periodos[2].JubiPerHasta, "31/12/99");
+    escribe(frm.periodos[0].PerDesde, "1/1/70");
+    escribe(frm.periodos[0].PerHasta, "1-1-1970");
+    escribe(frm.periodos[2].PerHasta, "31/12/99");
     sigue();
-    EXPECT_EQ(frm.periodos[0].JubiPerDesde.texto(), "01-01-1970");
-    EXPECT_EQ(frm.periodos[2].JubiPerHasta.texto(), "31-12-1999") << "a last day without its first";
+    EXPECT_EQ(frm.periodos[0].PerDesde.texto(), "01-01-1970");
+    EXPECT_EQ(frm.periodos[2].PerHasta.texto(), "31-12-1999") << "a last day without its first";
     EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
 }
 
 TEST_F(PensionFrmTest, AFirstDayChangedAfterwardsIsCaughtOnGoingOn) {
     sigue();
-    escribe(frm.periodos[3].JubiPerDesde, "01-01-2000");
-    escribe(frm.periodos[3].JubiPerHasta, "01-01-2001");
-    escribe(frm.periodos[3].JubiPerDesde, "01-01-2002");
+    escribe(frm.periodos[3].PerDesde, "01-01-2000");
+    escribe(frm.periodos[3].PerHasta, "01-01-2001");
+    escribe(frm.periodos[3].PerDesde, "01-01-2002");
     ASSERT_TRUE(frm.foco(frm.HorasTP));
     ASSERT_TRUE(frm.pulsa(frm.Siguiente));
     EXPECT_THAT(
         mundo.mensajes.dichos,
         ElementsAre("Error: La fecha de finalización del periodo no puede ser anterior a la inicial."));
     EXPECT_EQ(frm.PantallaActual(), 1);
-    EXPECT_EQ(frm.actual(), &frm.periodos[3].JubiPerHasta);
+    EXPECT_EQ(frm.actual(), &frm.periodos[3].PerHasta);
 }
 
 }  // namespace

@@ -28,30 +28,18 @@ DesempFrm::DesempFrm(Entorno& entorno)
                    .defecto = "0",
                    .contenido = Contenido::Entero,
                    .alSalir = rango("1", "39"),
-                   .visible = false})} {}
-
-void DesempFrm::tomaCampos() {
-    caso_.Nombre.asigna(Recorta(Nombre.texto()));
-    caso_.Edad = LeeEnteroRegional(Edad.texto());
-    caso_.Fecha_ = LeeFecha(Fecha.texto());
-    caso_.fIni = LeeFecha(fIni.texto());
-    caso_.Suma = DobleDe(Suma.texto());
-    caso_.Dias = LeeEnteroRegional(Dias.texto());
-    caso_.Hijos = LeeEnteroRegional(Hijos.texto());
-    caso_.Horas = LeeEnteroRegional(Horas.texto());
-    caso_.Parcial = Parcial.marcado() ? 1 : 0;
-}
-
-void DesempFrm::cargaCampos() {
-    Nombre.ponTexto(caso_.Nombre.utf8());
-    Edad.ponTexto(TextoPlano(caso_.Edad));
-    Fecha.ponTexto(FormatoFecha(caso_.Fecha_, "dd-MM-yyyy"));
-    fIni.ponTexto(FormatoFecha(caso_.fIni, "dd-MM-yyyy"));
-    Suma.ponTexto(FormatoNumero(caso_.Suma, "#0.00"));
-    Dias.ponTexto(TextoPlano(caso_.Dias));
-    Hijos.ponTexto(TextoPlano(caso_.Hijos));
-    Horas.ponTexto(TextoPlano(caso_.Horas));
-    Parcial.ponMarcado(caso_.Parcial == 1);
+                   .visible = false})} {
+    // In the order of the record: a text that can't be read stops the copy there.
+    using Caso = RegistroDelCaso;
+    enlaza(Nombre, &Caso::Nombre);
+    enlaza(Edad, &Caso::Edad);
+    enlaza(Fecha, &Caso::Fecha_);
+    enlaza(fIni, &Caso::fIni);
+    enlaza(Suma, &Caso::Suma, vias::kImporteOCero);
+    enlaza(Dias, &Caso::Dias);
+    enlaza(Hijos, &Caso::Hijos);
+    enlaza(Horas, &Caso::Horas);
+    enlaza(Parcial, &Caso::Parcial);
 }
 
 void DesempFrm::calcula(Dictamen& dictamen) {

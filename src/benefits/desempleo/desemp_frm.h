@@ -13,8 +13,6 @@ class DesempFrm final : public AsistenteDe<desempleo::RegistroDesempleo, desempl
     void ImprimeInforme(RutinasImpresion& rutinas) override;
 
   protected:
-    void tomaCampos() override;
-    void cargaCampos() override;
     void calcula(Dictamen& dictamen) override;
 
   public:

@@ -42,7 +42,22 @@ FamiliarFrm::FamiliarFrm(Entorno& entorno)
           "TotalHijos", "Número total  de hijos (incluidos los habidos en el parto):",
           [this](Campo& campo) { compruebaTotalHijos(campo); }, &Nacimiento))},
       Ingresos2{nuevo(decimal("Ingresos2", "Ingresos totales anuales de la unidad familiar:",
-                              rango("0", "99999999"), &Nacimiento))} {}
+                              rango("0", "99999999"), &Nacimiento))} {
+    // In the order of the record: a text that can't be read stops the copy there.
+    using Caso = RegistroDelCaso;
+    enlaza(Nombre, &Caso::Nombre);
+    enlaza(Hijos, &Caso::Hijos);
+    enlaza(HMin1, &Caso::HMin1);
+    enlaza(HMin2, &Caso::HMin2);
+    enlaza(HMin3, &Caso::HMin3);
+    enlaza(Ingresos, &Caso::Ingresos, vias::kNumero);
+    enlaza(
+        [this](Caso& caso) { caso.Ayuda = static_cast<std::int16_t>(Ayuda.indice()); },
+        [this](const Caso& caso) { Ayuda.ponIndice(Menor(Mayor(int{caso.Ayuda}, 0), kIndiceNacimiento)); });
+    enlaza(Ingresos2, &Caso::Ingresos2, vias::kNumero);
+    enlaza(HijosParto, &Caso::HijosParto);
+    enlaza(TotalHijos, &Caso::TotalHijos);
+}
 
 bool FamiliarFrm::esNacimiento() const {
     return Ayuda.indice() == kIndiceNacimiento;
@@ -73,45 +88,21 @@ void FamiliarFrm::LimpiaDatos() {
     ajustaSupuestos();
 }
 
-void FamiliarFrm::tomaCampos() {
-    caso_.Nombre.asigna(Recorta(Nombre.texto()));
-    caso_.Hijos = LeeEnteroRegional(Hijos.texto());
-    caso_.HMin1 = LeeEnteroRegional(HMin1.texto());
-    caso_.HMin2 = LeeEnteroRegional(HMin2.texto());
-    caso_.HMin3 = LeeEnteroRegional(HMin3.texto());
-    caso_.Ingresos = LeeNumeroRegional(Ingresos.texto());
-    caso_.Ayuda = static_cast<std::int16_t>(Ayuda.indice());
-    caso_.Ingresos2 = LeeNumeroRegional(Ingresos2.texto());
-    caso_.HijosParto = LeeEnteroRegional(HijosParto.texto());
-    caso_.TotalHijos = LeeEnteroRegional(TotalHijos.texto());
+/// The calculation looks at the fields and not at the case: there a blank one counts 0.
+void FamiliarFrm::preparaCaso() {
+    aLaVista_.Hijos = EnteroDe(Hijos.texto());
+    aLaVista_.HMin1 = EnteroDe(HMin1.texto());
+    aLaVista_.HMin2 = EnteroDe(HMin2.texto());
+    aLaVista_.HMin3 = EnteroDe(HMin3.texto());
+    aLaVista_.Ingresos = DobleDe(Ingresos.texto());
+    aLaVista_.Ayuda = static_cast<std::int16_t>(Ayuda.indice());
+    aLaVista_.Ingresos2 = DobleDe(Ingresos2.texto());
+    aLaVista_.HijosParto = EnteroDe(HijosParto.texto());
+    aLaVista_.TotalHijos = EnteroDe(TotalHijos.texto());
 }
 
-void FamiliarFrm::cargaCampos() {
-    Nombre.ponTexto(caso_.Nombre.utf8());
-    Hijos.ponTexto(TextoPlano(caso_.Hijos));
-    HMin1.ponTexto(TextoPlano(caso_.HMin1));
-    HMin2.ponTexto(TextoPlano(caso_.HMin2));
-    HMin3.ponTexto(TextoPlano(caso_.HMin3));
-    Ingresos.ponTexto(TextoPlano(caso_.Ingresos));
-    Ayuda.ponIndice(Menor(Mayor(int{caso_.Ayuda}, 0), kIndiceNacimiento));
-    Ingresos2.ponTexto(TextoPlano(caso_.Ingresos2));
-    HijosParto.ponTexto(TextoPlano(caso_.HijosParto));
-    TotalHijos.ponTexto(TextoPlano(caso_.TotalHijos));
-}
-
-/// The calculation looks at the fields themselves, and there a blank one counts 0.
 void FamiliarFrm::calcula(Dictamen& dictamen) {
-    familiar::RegistroFamiliar campos;
-    campos.Hijos = EnteroDe(Hijos.texto());
-    campos.HMin1 = EnteroDe(HMin1.texto());
-    campos.HMin2 = EnteroDe(HMin2.texto());
-    campos.HMin3 = EnteroDe(HMin3.texto());
-    campos.Ingresos = DobleDe(Ingresos.texto());
-    campos.Ayuda = static_cast<std::int16_t>(Ayuda.indice());
-    campos.Ingresos2 = DobleDe(Ingresos2.texto());
-    campos.HijosParto = EnteroDe(HijosParto.texto());
-    campos.TotalHijos = EnteroDe(TotalHijos.texto());
-    familiar::CalculaProteccionFamiliar(campos, dictamen);
+    familiar::CalculaProteccionFamiliar(aLaVista_, dictamen);
 }
 
 void FamiliarFrm::ImprimeInforme(RutinasImpresion& rutinas) {

@@ -14,10 +14,8 @@ class FamiliarFrm final : public AsistenteDe<familiar::RegistroFamiliar, familia
     void ImprimeInforme(RutinasImpresion& rutinas) override;
 
   protected:
-    void tomaCampos() override;
-    void cargaCampos() override;
     void calcula(Dictamen& dictamen) override;
-    [[nodiscard]] bool calculaDesdeCampos() const override { return true; }
+    void preparaCaso() override;
     [[nodiscard]] bool grabaDatosIncompletos() const override { return false; }
     [[nodiscard]] std::string subtituloDe(int pantalla) const override;
 
@@ -26,6 +24,8 @@ class FamiliarFrm final : public AsistenteDe<familiar::RegistroFamiliar, familia
     void compruebaHijosParto(Campo& campo);
     void compruebaTotalHijos(Campo& campo);
     [[nodiscard]] bool esNacimiento() const;
+
+    familiar::RegistroFamiliar aLaVista_;  ///< the fields as the calculation reads them
 
   public:
     Grupo& HijosACargo;  ///< `Supuestos` 0

@@ -79,7 +79,31 @@ ILTFrm::ILTFrm(Entorno& entorno)
       B12{nuevo(decimal("B12", "Suma Bases Cot. 3 últimos meses:", rango("0", kTope), &Sup3))},
       D12{nuevo(entero("D12", "Días a los que corresponde:", rango("0", kTope), &Sup3))},
       HorasAno{nuevo(entero("HorasAno", "Número de horas trabajadas al año:", rango("0", "9999"), &Sup3))},
-      DSem{nuevo(texto("DSem", "Días de la semana que trabaja (LMXJVSD):", "LMXJVSD", &Sup3))} {}
+      DSem{nuevo(texto("DSem", "Días de la semana que trabaja (LMXJVSD):", "LMXJVSD", &Sup3))} {
+    // In the order of the record: a text that can't be read stops the copy there.
+    using Caso = RegistroDelCaso;
+    enlaza(Nombre, &Caso::Nombre);
+    enlaza(Situacion, &Caso::Situacion);
+    enlaza(fAlta, &Caso::fAlta);
+    enlaza(Bccant, &Caso::Bccant);
+    enlaza(Batant, &Caso::Batant);
+    enlaza(He, &Caso::He);
+    enlaza(He12, &Caso::He12);
+    enlaza(DM, &Caso::DM);
+    enlaza(f1, &Caso::f1);
+    enlaza(f2, &Caso::f2);
+    enlaza(TBaja, &Caso::TBaja);
+    enlaza(Bact, &Caso::Bact);
+    enlaza(Extra, &Caso::Extra);
+    enlaza(IExtra, &Caso::IExtra);
+    enlaza(Prev, &Caso::Prev);
+    enlaza(D12, &Caso::D12);
+    enlaza(B12, &Caso::B12);
+    enlaza(HorasAno, &Caso::HorasAno);
+    // With its blanks.
+    enlaza([this](Caso& caso) { caso.DSem.asigna(DSem.texto()); },
+           [this](const Caso& caso) { DSem.ponTexto(caso.DSem.utf8()); });
+}
 
 // --- Reactions ---
 
@@ -128,10 +152,8 @@ void ILTFrm::AjustaPantalla() {
 
 void ILTFrm::compruebaHe() {
     if (DatoMal) return;
-    if (!EntreLimites(LeeNumero(He.texto()), 0.0, kTopeHe)) {
-        mensajes().ComunicaError("El número no es correcto. Debe introducir un número entre 0 y 99,999,999");
-        He.pideFoco();
-        DatoMal = true;
+    if (!NumeroEntre(He.texto(), 0, kTopeHe)) {
+        rechaza(He, "El número no es correcto. Debe introducir un número entre 0 y 99,999,999");
         return;
     }
     He.ponTexto(FormatoNumero(DobleDe(He.texto()), kPatronImporte));
@@ -139,53 +161,13 @@ void ILTFrm::compruebaHe() {
 
 // --- Case ---
 
-void ILTFrm::tomaCampos() {
-    caso_.Nombre.asigna(Recorta(Nombre.texto()));
-    caso_.Situacion = Situacion.indice();
-    caso_.fAlta = LeeFecha(fAlta.texto());
-    caso_.Bccant = LeeNumeroRegional(Bccant.texto());
-    caso_.Batant = LeeNumeroRegional(Batant.texto());
-    caso_.He = LeeEnteroRegional(He.texto());
-    caso_.He12 = LeeEnteroRegional(He12.texto());
-    caso_.DM = DM.indice();
-    caso_.f1 = LeeFecha(f1.texto());
-    caso_.f2 = LeeFecha(f2.texto());
-    caso_.TBaja = TBaja.indice();
-    caso_.Bact = LeeNumeroRegional(Bact.texto());
-    caso_.Extra = LeeEnteroRegional(Extra.texto());
-    caso_.IExtra = LeeNumeroRegional(IExtra.texto());
-    caso_.Prev = LeeEnteroRegional(Prev.texto());
-    caso_.D12 = LeeEnteroRegional(D12.texto());
-    caso_.B12 = LeeNumeroRegional(B12.texto());
-    caso_.HorasAno = LeeEnteroRegional(HorasAno.texto());
-    caso_.DSem.asigna(DSem.texto());
-}
-
-void ILTFrm::cargaCampos() {
-    // The scheme first: it decides which causes there are.
-    Situacion.ponIndice(caso_.Situacion);
-    TBaja.ponIndice(caso_.TBaja);
-    Nombre.ponTexto(caso_.Nombre.utf8());
-    fAlta.ponTexto(FormatoFecha(caso_.fAlta, kPatronFecha));
-    Bccant.ponTexto(FormatoNumero(caso_.Bccant, "#0.00"));
-    Batant.ponTexto(FormatoNumero(caso_.Batant, "#0.00"));
-    He.ponTexto(TextoPlano(caso_.He));
-    He12.ponTexto(TextoPlano(caso_.He12));
-    DM.ponIndice(caso_.DM);
-    f1.ponTexto(FormatoFecha(caso_.f1, kPatronFecha));
-    f2.ponTexto(FormatoFecha(caso_.f2, kPatronFecha));
-    Bact.ponTexto(FormatoNumero(caso_.Bact, "#0.00"));
-    Extra.ponTexto(TextoPlano(caso_.Extra));
-    IExtra.ponTexto(FormatoNumero(caso_.IExtra, "#0.00"));
-    Prev.ponTexto(TextoPlano(caso_.Prev));
-    D12.ponTexto(TextoPlano(caso_.D12));
-    B12.ponTexto(FormatoNumero(caso_.B12, "#0.00"));
-    HorasAno.ponTexto(TextoPlano(caso_.HorasAno));
-    DSem.ponTexto(caso_.DSem.utf8());
+void ILTFrm::preparaCaso() {
+    DatosTomaPantalla();
+    if (!Sup2.visible()) caso_.Prev = 0;  // days that weren't asked for don't count
 }
 
 void ILTFrm::calcula(Dictamen& dictamen) {
-    incapacidad_temporal::CalculaIncapacidad(caso_, {.Sup2 = Sup2.visible(), .DSem = DSem.texto()}, dictamen);
+    incapacidad_temporal::CalculaIncapacidad(caso_, DSem.texto(), dictamen);
 }
 
 // --- Report ---

@@ -20,9 +20,8 @@ class ILTFrm final
     void AjustaPantalla();
 
   protected:
-    void tomaCampos() override;
-    void cargaCampos() override;
     void trasCargar() override { AjustaPantalla(); }
+    void preparaCaso() override;
     void calcula(Dictamen& dictamen) override;
 
   private:

@@ -256,7 +256,7 @@ void contingenciaComun(const RegistroIncapacidad& caso, double bc, std::string_v
     informaDeTotal(i1 + i2 + i3, d);
 }
 
-void informaDePrestacion(const RegistroIncapacidad& caso, const EnPantalla& pantalla, const Bases& bases,
+void informaDePrestacion(const RegistroIncapacidad& caso, std::string_view dsem, const Bases& bases,
                          Dictamen& d) {
     const Causa causa = causaDe(caso);
     if (esAutonomoOAgrario(caso) && causa == Causa::Enfermedad) {
@@ -268,7 +268,7 @@ void informaDePrestacion(const RegistroIncapacidad& caso, const EnPantalla& pant
     } else if (causa == Causa::AccidenteLaboral) {
         contingenciaProfesional(caso, bases.bp, d);
     } else {
-        contingenciaComun(caso, bases.bc, pantalla.DSem, d);
+        contingenciaComun(caso, bases.bc, dsem, d);
     }
 }
 
@@ -286,13 +286,12 @@ int DiasEfectivos(Fecha desde, Fecha hasta, std::string_view dsem) {
     return dias;
 }
 
-void CalculaIncapacidad(RegistroIncapacidad& caso, const EnPantalla& pantalla, Dictamen& dictamen) {
-    if (!pantalla.Sup2) caso.Prev = 0;
+void CalculaIncapacidad(const RegistroIncapacidad& caso, std::string_view dsem, Dictamen& dictamen) {
     dictamen.vacia();
     dictamen.linea("El interesado/a desea solicitar una prestación por Incapacidad Temporal.");
     const Bases bases = basesDiarias(caso);
     informaDeCotizacion(caso, dictamen);
-    informaDePrestacion(caso, pantalla, bases, dictamen);
+    informaDePrestacion(caso, dsem, bases, dictamen);
     dictamen.ConDerecho = true;
 }
 

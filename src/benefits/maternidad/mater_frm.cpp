@@ -47,7 +47,22 @@ MaterFrm::MaterFrm(Entorno& entorno)
       jtpcnd{nuevo(casilla("jtpcnd", "Reducción de jornada",
                            [this](Campo& reduccion) { jtp.ponVisible(reduccion.marcado()); }))},
       ftp{nuevo(fechaElegida("ftp", "Fecha inicio jornada tiempo parcial:", {}, &jtp))},
-      ptp{nuevo(entero("ptp", "% de jornada realizada:", rango("0", "100"), &jtp, "60"))} {}
+      ptp{nuevo(entero("ptp", "% de jornada realizada:", rango("0", "100"), &jtp, "60"))} {
+    // In the order of the record: a text that can't be read stops the copy there.
+    using Caso = RegistroDelCaso;
+    enlaza(Nombre, &Caso::Nombre);
+    enlaza(Situacion, &Caso::Situacion);
+    enlaza(fAlta, &Caso::fAlta);
+    enlaza(f1, &Caso::f1);
+    enlaza(f2, &Caso::f2);
+    enlaza(Bccant, &Caso::Bccant);
+    enlaza(DM, &Caso::DM);
+    enlaza(B12, &Caso::B12);
+    enlaza(D12, &Caso::D12);
+    enlaza(jtpcnd, &Caso::jtpcnd);
+    enlaza(ftp, &Caso::ftp);
+    enlaza(ptp, &Caso::ptp);
+}
 
 // --- Reactions ---
 
@@ -72,38 +87,9 @@ bool MaterFrm::ValidaPantalla() {
 
 // --- Case ---
 
-void MaterFrm::tomaCampos() {
-    caso_.Nombre.asigna(Recorta(Nombre.texto()));
-    caso_.Situacion = Situacion.indice();
-    caso_.fAlta = LeeFecha(fAlta.texto());
-    caso_.f1 = LeeFecha(f1.texto());
-    caso_.f2 = LeeFecha(f2.texto());
-    caso_.Bccant = LeeNumeroRegional(Bccant.texto());
-    caso_.DM = DM.indice();
-    caso_.B12 = LeeNumeroRegional(B12.texto());
-    caso_.D12 = LeeEnteroRegional(D12.texto());
-    caso_.jtpcnd = jtpcnd.marcado() ? 1 : 0;
-    caso_.ftp = LeeFecha(ftp.texto());
-    caso_.ptp = LeeEnteroRegional(ptp.texto());
-}
-
-void MaterFrm::cargaCampos() {
-    Nombre.ponTexto(caso_.Nombre.utf8());
-    Situacion.ponIndice(caso_.Situacion);
-    fAlta.ponTexto(FormatoFecha(caso_.fAlta, kPatronFecha));
-    f1.ponTexto(FormatoFecha(caso_.f1, kPatronFecha));
-    f2.ponTexto(FormatoFecha(caso_.f2, kPatronFecha));
-    Bccant.ponTexto(FormatoNumero(caso_.Bccant, "#0.00"));
-    DM.ponIndice(caso_.DM);
-    B12.ponTexto(FormatoNumero(caso_.B12, "#0.00"));
-    D12.ponTexto(TextoPlano(caso_.D12));
-    jtpcnd.ponMarcado(caso_.jtpcnd == 1);
-    ftp.ponTexto(FormatoFecha(caso_.ftp, kPatronFecha));
-    ptp.ponTexto(TextoPlano(caso_.ptp));
-}
-
 void MaterFrm::calcula(Dictamen& dictamen) {
-    maternidad::CalculaMaternidad(caso_, {.jtpcnd = jtpcnd.marcado()}, dictamen);
+    using maternidad::Jornada;
+    maternidad::CalculaMaternidad(caso_, jtpcnd.marcado() ? Jornada::Reducida : Jornada::Completa, dictamen);
 }
 
 // --- Report ---

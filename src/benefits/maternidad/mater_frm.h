@@ -18,8 +18,6 @@ class MaterFrm final : public AsistenteDe<maternidad::RegistroMaternidad, matern
     void AjustaRegimen();
 
   protected:
-    void tomaCampos() override;
-    void cargaCampos() override;
     void trasCargar() override { AjustaRegimen(); }
     void calcula(Dictamen& dictamen) override;
 

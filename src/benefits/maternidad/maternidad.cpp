@@ -104,7 +104,7 @@ void informaDeDescansoPartido(const RegistroMaternidad& caso, int total, double 
 
 }  // namespace
 
-void CalculaMaternidad(const RegistroMaternidad& caso, const EnPantalla& pantalla, Dictamen& dictamen) {
+void CalculaMaternidad(const RegistroMaternidad& caso, Jornada jornada, Dictamen& dictamen) {
     dictamen.vacia();
     dictamen.linea("La interesada desea solicitar una prestación por maternidad.");
     const double diaria = baseDiaria(caso);
@@ -117,7 +117,7 @@ void CalculaMaternidad(const RegistroMaternidad& caso, const EnPantalla& pantall
     if (!dictamen.ConDerecho) return;
     const int total = DiferenciaFechas(Intervalo::Dia, caso.f1, caso.f2) + 1;
     dictamen.linea("Base Reguladora para la prestación:", base(diaria), " €");
-    if (pantalla.jtpcnd) {
+    if (jornada == Jornada::Reducida) {
         informaDeDescansoPartido(caso, total, diaria, dictamen);
     } else {
         informaDeDescansoEntero(total, diaria, dictamen);

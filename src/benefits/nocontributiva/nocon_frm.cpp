@@ -39,6 +39,18 @@ NoConFrm::NoConFrm(Entorno& entorno)
            .rotulo = "(Como integrantes de la unidad familiar se consideran el cónyuge, los abuelos, padres, "
                      "hijos, nietos y hermanos (no otros parientes)",
            .clase = Clase::Etiqueta});
+    // In the order of the record: a text that can't be read stops the copy there.
+    using Caso = RegistroDelCaso;
+    enlaza(Nombre, &Caso::Nombre);
+    enlaza(FechaNac, &Caso::FechaNac);
+    enlaza(Estancia, &Caso::Estancia);
+    enlaza(NumMiembros, &Caso::NumMiembros);
+    enlaza(NumBenef, &Caso::NumBenef);
+    enlaza(Renta, &Caso::Renta, vias::kNumero);
+    enlaza(RenBene, &Caso::RenBene, vias::kNumero);
+    enlaza(RGlobal, &Caso::RGlobal, vias::kNumero);
+    enlaza(Convive, &Caso::Convive);
+    enlaza(Minusvalia, &Caso::Minusvalia);
 }
 
 void NoConFrm::LimpiaDatos() {
@@ -46,34 +58,7 @@ void NoConFrm::LimpiaDatos() {
     FechaNac.ponTexto(FormatoFecha(SumaFecha(Intervalo::Anio, -kEdadDeJubilacion, hoy()), "dd-mm-yyyy"));
 }
 
-void NoConFrm::tomaCampos() {
-    caso_.Nombre.asigna(Recorta(Nombre.texto()));
-    caso_.FechaNac = LeeFecha(FechaNac.texto());
-    caso_.Estancia = LeeEnteroRegional(Estancia.texto());
-    caso_.NumMiembros = LeeEnteroRegional(NumMiembros.texto());
-    caso_.NumBenef = LeeEnteroRegional(NumBenef.texto());
-    caso_.Renta = LeeNumeroRegional(Renta.texto());
-    caso_.RenBene = LeeNumeroRegional(RenBene.texto());
-    caso_.RGlobal = LeeNumeroRegional(RGlobal.texto());
-    caso_.Convive = Convive.marcado() ? 1 : 0;
-    caso_.Minusvalia = Minusvalia.marcado() ? 1 : 0;
-}
-
-void NoConFrm::cargaCampos() {
-    Nombre.ponTexto(caso_.Nombre.utf8());
-    FechaNac.ponTexto(FormatoFecha(caso_.FechaNac, "dd-mm-yyyy"));
-    Estancia.ponTexto(TextoPlano(caso_.Estancia));
-    NumMiembros.ponTexto(TextoPlano(caso_.NumMiembros));
-    NumBenef.ponTexto(TextoPlano(caso_.NumBenef));
-    Renta.ponTexto(TextoPlano(caso_.Renta));
-    RenBene.ponTexto(TextoPlano(caso_.RenBene));
-    RGlobal.ponTexto(TextoPlano(caso_.RGlobal));
-    Convive.ponMarcado(caso_.Convive == 1);
-    Minusvalia.ponMarcado(caso_.Minusvalia == 1);
-}
-
 void NoConFrm::calcula(Dictamen& dictamen) {
-    tomaCampos();
     nocontributiva::CalculaNoContributiva(caso_, hoy(), dictamen);
 }
 

@@ -14,10 +14,9 @@ class NoConFrm final : public AsistenteDe<nocontributiva::RegistroNoContributiva
     void ImprimeInforme(RutinasImpresion& rutinas) override;
 
   protected:
-    void tomaCampos() override;
-    void cargaCampos() override;
     void calcula(Dictamen& dictamen) override;
-    [[nodiscard]] bool calculaDesdeCampos() const override { return true; }
+    /// What can't be read fails aloud here.
+    void preparaCaso() override { tomaCampos(); }
     [[nodiscard]] bool grabaDatosIncompletos() const override { return false; }
 
   public:

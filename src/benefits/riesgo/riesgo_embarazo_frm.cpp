@@ -46,7 +46,22 @@ RiesgoEmbarazo::RiesgoEmbarazo(Entorno& entorno)
       D12{nuevo(entero("D12", "Horas anuales pactadas en contrato:", rango("0", "1826"), &Sup3))},
       Bact{nuevo(decimal("Bact", "Salario Base Mensual:", rango("0", kTope), &Sup1))},
       Extra{nuevo(entero("Extra", "Nº Pagas Extra:", rango("0", "9"), &Sup1))},
-      IExtra{nuevo(alLado(decimal("IExtra", "Importe:", rango("0", kTope), &Sup1)))} {}
+      IExtra{nuevo(alLado(decimal("IExtra", "Importe:", rango("0", kTope), &Sup1)))} {
+    // In the order of the record: a text that can't be read stops the copy there.
+    using Caso = RegistroDelCaso;
+    enlaza(Nombre, &Caso::Nombre);
+    enlaza(Situacion, &Caso::Situacion);
+    enlaza(fAlta, &Caso::fAlta);
+    enlaza(Bccant, &Caso::Bccant);
+    enlaza(DM, &Caso::DM);
+    enlaza(f1, &Caso::f1);
+    enlaza(f2, &Caso::f2);
+    enlaza(Bact, &Caso::Bact);
+    enlaza(Extra, &Caso::Extra);
+    enlaza(IExtra, &Caso::IExtra);
+    enlaza(D12, &Caso::D12);
+    enlaza(B12, &Caso::B12);
+}
 
 // --- Reactions ---
 
@@ -77,36 +92,6 @@ bool RiesgoEmbarazo::ValidaPantalla() {
 }
 
 // --- Case ---
-
-void RiesgoEmbarazo::tomaCampos() {
-    caso_.Nombre.asigna(Recorta(Nombre.texto()));
-    caso_.Situacion = Situacion.indice();
-    caso_.fAlta = LeeFecha(fAlta.texto());
-    caso_.Bccant = LeeNumeroRegional(Bccant.texto());
-    caso_.DM = DM.indice();
-    caso_.f1 = LeeFecha(f1.texto());
-    caso_.f2 = LeeFecha(f2.texto());
-    caso_.Bact = LeeNumeroRegional(Bact.texto());
-    caso_.Extra = LeeEnteroRegional(Extra.texto());
-    caso_.IExtra = LeeNumeroRegional(IExtra.texto());
-    caso_.D12 = LeeEnteroRegional(D12.texto());
-    caso_.B12 = LeeNumeroRegional(B12.texto());
-}
-
-void RiesgoEmbarazo::cargaCampos() {
-    Nombre.ponTexto(caso_.Nombre.utf8());
-    Situacion.ponIndice(caso_.Situacion);
-    fAlta.ponTexto(FormatoFecha(caso_.fAlta, kPatronFecha));
-    Bccant.ponTexto(FormatoNumero(caso_.Bccant, "#0.00"));
-    DM.ponIndice(caso_.DM);
-    f1.ponTexto(FormatoFecha(caso_.f1, kPatronFecha));
-    f2.ponTexto(FormatoFecha(caso_.f2, kPatronFecha));
-    Bact.ponTexto(FormatoNumero(caso_.Bact, "#0.00"));
-    Extra.ponTexto(TextoPlano(caso_.Extra));
-    IExtra.ponTexto(FormatoNumero(caso_.IExtra, "#0.00"));
-    D12.ponTexto(TextoPlano(caso_.D12));
-    B12.ponTexto(FormatoNumero(caso_.B12, "#0.00"));
-}
 
 void RiesgoEmbarazo::calcula(Dictamen& dictamen) {
     riesgo_embarazo::CalculaRiesgoEmbarazo(caso_, dictamen);

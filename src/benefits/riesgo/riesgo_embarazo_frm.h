@@ -18,8 +18,6 @@ class RiesgoEmbarazo final : public AsistenteDe<riesgo_embarazo::RegistroRiesgo,
     void AjustaRegimen();
 
   protected:
-    void tomaCampos() override;
-    void cargaCampos() override;
     void trasCargar() override { AjustaRegimen(); }
     void calcula(Dictamen& dictamen) override;
 

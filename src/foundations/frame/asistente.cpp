@@ -51,9 +51,9 @@ void Asistente::concluye() {
 // --- Conclusions
 
 void Asistente::ActualizaConclusion() {
-    if (!calculaDesdeCampos()) DatosTomaPantalla();
     Dictamen dictamen;
     try {
+        preparaCaso();
         calcula(dictamen);
     } catch (const Fallo&) {
         // The lines written so far stay, but nothing was decided.

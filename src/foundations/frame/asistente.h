@@ -26,10 +26,10 @@ class Asistente : public Calculadora {
   protected:
     // --- What a calculator tells
 
-    /// The calculation, on the case buffer.
+    /// What the calculation starts from; as a rule the fields, copied to the case buffer.
+    virtual void preparaCaso() { DatosTomaPantalla(); }
+    /// The calculation; it copies nothing.
     virtual void calcula(Dictamen& dictamen) = 0;
-    /// Whether `calcula` reads the fields itself, so that entering the conclusions doesn't copy them first.
-    [[nodiscard]] virtual bool calculaDesdeCampos() const { return false; }
     /// Panels that `Siguiente` and `Anterior` lead to.
     [[nodiscard]] virtual int pantallaSiguiente(int pantalla) const { return pantalla + 1; }
     [[nodiscard]] virtual int pantallaAnterior(int pantalla) const { return pantalla - 1; }

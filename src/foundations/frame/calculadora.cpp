@@ -107,7 +107,7 @@ void Calculadora::DatosCargaRegistro(int r) {
     } catch (const Fallo&) {
         // A case that can't be shown leaves the one on screen as it was.
         leeCaso(antes);
-        campos.restaura(Cargando);
+        campos.restaura();
         throw;
     }
     NombreActual_ = NombreSupuesto();

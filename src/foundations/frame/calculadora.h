@@ -2,10 +2,12 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cases/archivo_supuestos.h"
 #include "cases/registro.h"
+#include "foundations/frame/enlaces.h"
 #include "foundations/frame/formulario.h"
 
 namespace orvemo {
@@ -132,7 +134,17 @@ class ConCaso : public Base {
         }
     }
 
+    /// Ties a field to its member, or states a rule of its own: see Enlaces. In the order of the copy.
+    void enlaza(auto&&... partes) { enlaces_.agrega(std::forward<decltype(partes)>(partes)...); }
+    [[nodiscard]] Enlaces<Registro>& enlaces() { return enlaces_; }
+
+    void tomaCampos() override { enlaces_.toma(caso_); }
+    void cargaCampos() override { enlaces_.carga(caso_); }
+
     Registro caso_{};
+
+  private:
+    Enlaces<Registro> enlaces_;
 };
 
 template <typename Registro, const auto& kDiseno>

@@ -38,10 +38,10 @@ void Grupo::ponTitulo(std::string titulo) {
 Campo::Campo(Formulario& formulario, DefCampo def)
     : formulario_{formulario},
       def_{std::move(def)},
-      opciones_{def_.opciones},
-      rotulo_{def_.rotulo},
-      pantalla_{def_.pantalla},
-      visible_{def_.visible} {
+      estado_{.opciones = def_.opciones,
+              .rotulo = def_.rotulo,
+              .pantalla = def_.pantalla,
+              .visible = def_.visible} {
     if (!def_.filtro) def_.filtro = filtroDe(def_.contenido);
     ponDefecto();
 }
@@ -53,21 +53,21 @@ void Campo::refresca() const {
 void Campo::ponTexto(std::string texto) {
     if (def_.largo > 0) texto = PrimerosCaracteres(texto, def_.largo);
     if (esFecha()) {
-        fechaAsentada_ = texto;
-        if (EsFecha(texto)) fechaValida_ = texto;
+        estado_.fechaAsentada = texto;
+        if (EsFecha(texto)) estado_.fechaValida = texto;
     }
-    if (texto == texto_) return;
-    texto_ = std::move(texto);
+    if (texto == estado_.texto) return;
+    estado_.texto = std::move(texto);
     refresca();
 }
 
 std::string Campo::presentacion() const {
-    if (def_.formato.empty() || !EsNumero(texto_)) return texto_;
-    return FormatoNumero(LeeNumeroRegional(texto_), def_.formato);
+    if (def_.formato.empty() || !EsNumero(estado_.texto)) return estado_.texto;
+    return FormatoNumero(LeeNumeroRegional(estado_.texto), def_.formato);
 }
 
 void Campo::ponMarcado(bool marcado) {
-    if (std::exchange(marcado_, marcado) == marcado) return;
+    if (std::exchange(estado_.marcado, marcado) == marcado) return;
     refresca();
     formulario_.reacciona(*this);
 }
@@ -77,58 +77,81 @@ void Campo::ponIndice(int indice) {
 }
 
 bool Campo::ponIndiceSinReaccion(int indice) {
-    const int ultima = static_cast<int>(opciones_.size()) - 1;
+    const int ultima = static_cast<int>(estado_.opciones.size()) - 1;
     const int nueva = indice < 0 && indice != -1 ? std::min(0, ultima) : std::min(indice, ultima);
-    const bool cambia = std::exchange(indice_, nueva) != nueva;
-    texto_ = nueva < 0 ? std::string{} : opciones_[static_cast<std::size_t>(nueva)];
+    const bool cambia = std::exchange(estado_.indice, nueva) != nueva;
+    estado_.texto = nueva < 0 ? std::string{} : estado_.opciones[static_cast<std::size_t>(nueva)];
     refresca();
     return cambia;
 }
 
 void Campo::ponOpciones(std::vector<std::string> opciones) {
-    opciones_ = std::move(opciones);
-    datos_.clear();
-    ponIndice(indice_);
+    estado_.opciones = std::move(opciones);
+    estado_.datos.clear();
+    ponIndice(estado_.indice);
 }
 
 void Campo::rellena(std::vector<std::string> opciones, std::vector<std::int64_t> datos, int indice) {
-    opciones_ = std::move(opciones);
-    datos_ = std::move(datos);
+    estado_.opciones = std::move(opciones);
+    estado_.datos = std::move(datos);
     ponIndiceSinReaccion(indice);
     formulario_.reacciona(*this);
 }
 
 std::int64_t Campo::dato(int indice) const {
     const auto i = static_cast<std::size_t>(indice);
-    return indice >= 0 && i < datos_.size() ? datos_[i] : 0;
+    return indice >= 0 && i < estado_.datos.size() ? estado_.datos[i] : 0;
 }
 
-void Campo::ponGrafica(Grafica grafica) {
-    if (grafica == grafica_) return;
-    grafica_ = std::move(grafica);
+const Grafica& Campo::grafica() const {
+    static const Grafica kVacia;
+    return estado_.grafica == nullptr ? kVacia : *estado_.grafica;
+}
+
+void Campo::ponGrafica(Grafica nueva) {
+    estado_.grafica = std::make_shared<const Grafica>(std::move(nueva));
     refresca();
 }
 
 bool Campo::visible() const {
-    return visible_ && (def_.grupo == nullptr || def_.grupo->visible());
+    return estado_.visible && (def_.grupo == nullptr || def_.grupo->visible());
 }
 
 void Campo::ponVisible(bool visible) {
-    if (std::exchange(visible_, visible) != visible) refresca();
+    if (std::exchange(estado_.visible, visible) != visible) refresca();
 }
 
 void Campo::ponActivo(bool activo) {
-    if (std::exchange(activo_, activo) != activo) refresca();
+    if (std::exchange(estado_.activo, activo) != activo) refresca();
+}
+
+const std::string& Campo::rotulo() const {
+    if (estado_.rotuloPendiente) estado_.rotulo = std::exchange(estado_.rotuloPendiente, {})();
+    return estado_.rotulo;
 }
 
 void Campo::ponRotulo(std::string rotulo) {
-    if (rotulo == rotulo_) return;
-    rotulo_ = std::move(rotulo);
+    if (!estado_.rotuloPendiente && rotulo == estado_.rotulo) return;
+    estado_.rotulo = std::move(rotulo);
+    estado_.rotuloPendiente = nullptr;
     refresca();
 }
 
+void Campo::ponRotulo(std::function<std::string()> rotulo) {
+    estado_.rotuloPendiente = std::move(rotulo);
+    refresca();
+}
+
+void Campo::ponEstado(Estado estado) {
+    const int pantalla = estado.pantalla;
+    estado.pantalla = estado_.pantalla;
+    estado_ = std::move(estado);
+    refresca();
+    ponPantalla(pantalla);
+}
+
 void Campo::ponPantalla(int pantalla) {
-    const int anterior = std::exchange(pantalla_, pantalla);
+    const int anterior = std::exchange(estado_.pantalla, pantalla);
     if (anterior == pantalla || formulario_.vista() == nullptr) return;
     formulario_.vista()->reconstruye(anterior);
     formulario_.vista()->reconstruye(pantalla);
@@ -165,7 +188,7 @@ bool Campo::enfocable() const {
         case Clase::Grafica:
             return false;
         default:
-            return activo_ && visible();
+            return estado_.activo && visible();
     }
 }
 
@@ -182,14 +205,14 @@ bool Campo::esFecha() const {
 }
 
 bool Campo::asientaFecha() {
-    const std::string antes = fechaAsentada_;
-    if (EsFecha(texto_)) {
-        ponTexto(FormatoFecha(FechaDe(texto_), kPatronFecha));
+    const std::string antes = estado_.fechaAsentada;
+    if (EsFecha(estado_.texto)) {
+        ponTexto(FormatoFecha(FechaDe(estado_.texto), kPatronFecha));
     } else if (def_.clase == Clase::FechaSelector) {
-        ponTexto(FormatoFecha(FechaDe(fechaValida_), kPatronFecha));
+        ponTexto(FormatoFecha(FechaDe(estado_.fechaValida), kPatronFecha));
     }
-    fechaAsentada_ = texto_;
-    return fechaAsentada_ != antes;
+    estado_.fechaAsentada = estado_.texto;
+    return estado_.fechaAsentada != antes;
 }
 
 }  // namespace orvemo

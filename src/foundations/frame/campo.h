@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -134,6 +135,23 @@ struct DefCampo {
 /// A field of a form: its declaration and its present state. Every change reaches the renderer.
 class Campo final : public ControlTexto {
   public:
+    /// What a field holds and shows at one moment.
+    struct Estado {
+        std::string texto{};
+        std::string fechaValida{};    ///< of a picker: where it goes back to when left unreadable
+        std::string fechaAsentada{};  ///< of a date: its text when last settled
+        std::vector<std::string> opciones{};
+        std::vector<std::int64_t> datos{};  ///< of the entries, where they have them
+        std::shared_ptr<const Grafica> grafica{};
+        std::string rotulo{};
+        std::function<std::string()> rotuloPendiente{};  ///< the caption, once somebody looks
+        int indice{-1};
+        int pantalla{0};
+        bool marcado{false};
+        bool visible{true};
+        bool activo{true};
+    };
+
     Campo(Formulario& formulario, DefCampo def);
     Campo(const Campo&) = delete;
     Campo& operator=(const Campo&) = delete;
@@ -142,43 +160,49 @@ class Campo final : public ControlTexto {
     [[nodiscard]] Formulario& formulario() const { return formulario_; }
 
     /// What every reading reads ("1234,56"); of a list, the text of the entry chosen.
-    [[nodiscard]] const std::string& texto() const override { return texto_; }
+    [[nodiscard]] const std::string& texto() const override { return estado_.texto; }
     void ponTexto(std::string texto) override;
     /// What the field shows while it hasn't the focus: its text by its pattern ("1.234,56").
     [[nodiscard]] std::string presentacion() const;
 
-    [[nodiscard]] bool marcado() const { return marcado_; }
+    [[nodiscard]] bool marcado() const { return estado_.marcado; }
     void ponMarcado(bool marcado);
 
     /// Entry chosen of a list, from 0; -1 for none.
-    [[nodiscard]] int indice() const { return indice_; }
+    [[nodiscard]] int indice() const { return estado_.indice; }
     void ponIndice(int indice);
-    [[nodiscard]] const std::vector<std::string>& opciones() const { return opciones_; }
+    [[nodiscard]] const std::vector<std::string>& opciones() const { return estado_.opciones; }
     /// Refills a list; the index is kept, lowered to the last entry if need be.
     void ponOpciones(std::vector<std::string> opciones);
     /// Fills a list anew, each entry with a datum, and chooses one. It reacts whatever stood there before.
     void rellena(std::vector<std::string> opciones, std::vector<std::int64_t> datos, int indice);
     /// Datum of the entry chosen; 0 without one.
-    [[nodiscard]] std::int64_t dato() const { return dato(indice_); }
+    [[nodiscard]] std::int64_t dato() const { return dato(estado_.indice); }
     /// Datum of an entry; 0 without one.
     [[nodiscard]] std::int64_t dato(int indice) const;
-    [[nodiscard]] const std::vector<std::int64_t>& datos() const { return datos_; }
+    [[nodiscard]] const std::vector<std::int64_t>& datos() const { return estado_.datos; }
 
-    [[nodiscard]] const Grafica& grafica() const { return grafica_; }
-    void ponGrafica(Grafica grafica);
+    [[nodiscard]] const Grafica& grafica() const;
+    void ponGrafica(Grafica nueva);
 
     /// Its own switch and that of its group, whichever panel is on view.
     [[nodiscard]] bool visible() const;
     /// Its own switch alone.
-    [[nodiscard]] bool visiblePropio() const { return visible_; }
+    [[nodiscard]] bool visiblePropio() const { return estado_.visible; }
     void ponVisible(bool visible);
-    [[nodiscard]] bool activo() const { return activo_; }
+    [[nodiscard]] bool activo() const { return estado_.activo; }
     void ponActivo(bool activo);
-    [[nodiscard]] const std::string& rotulo() const { return rotulo_; }
+    [[nodiscard]] const std::string& rotulo() const;
     void ponRotulo(std::string rotulo);
-    [[nodiscard]] int pantalla() const { return pantalla_; }
+    /// The same, made when somebody looks at it.
+    void ponRotulo(std::function<std::string()> rotulo);
+    [[nodiscard]] int pantalla() const { return estado_.pantalla; }
     /// Moves the field to another panel; both are built anew.
     void ponPantalla(int pantalla);
+
+    [[nodiscard]] const Estado& estado() const { return estado_; }
+    /// Back to a state that it had, without reactions.
+    void ponEstado(Estado estado);
 
     /// Back to the declared default: text, mark off, first entry of a list.
     void ponDefecto();
@@ -202,18 +226,7 @@ class Campo final : public ControlTexto {
 
     Formulario& formulario_;
     DefCampo def_;
-    std::string texto_;
-    std::string fechaValida_;    ///< of a picker: where it goes back to when left unreadable
-    std::string fechaAsentada_;  ///< of a date: its text when last settled
-    std::vector<std::string> opciones_;
-    std::vector<std::int64_t> datos_;  ///< of the entries, where they have them
-    Grafica grafica_;
-    std::string rotulo_;
-    int indice_ = -1;
-    int pantalla_;
-    bool marcado_ = false;
-    bool visible_;
-    bool activo_ = true;
+    mutable Estado estado_;  ///< a caption to be made when looked at is made then
 };
 
 }  // namespace orvemo

@@ -18,7 +18,7 @@ std::string numeroDe(const Campo& campo, std::string_view patron) {
 }
 
 std::string fechaDe(const Campo& campo, std::string_view patron) {
-    return FormatoFecha(FechaDe(campo.texto()), patron);
+    return EsFecha(campo.texto()) ? FormatoFecha(FechaDe(campo.texto()), patron) : campo.texto();
 }
 
 }  // namespace orvemo

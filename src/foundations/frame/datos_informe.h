@@ -17,7 +17,7 @@ void lineaSiSeVe(Informe& informe, const Campo& campo, std::string_view texto);
 /// The field's number by the pattern; 0 when it can't be read.
 [[nodiscard]] std::string numeroDe(const Campo& campo, std::string_view patron);
 
-/// The field's date by the pattern; 01-01-1900 when it can't be read.
+/// The field's date by the pattern; its text as it stands when it can't be read.
 [[nodiscard]] std::string fechaDe(const Campo& campo, std::string_view patron);
 
 }  // namespace orvemo

@@ -117,23 +117,30 @@ bool Formulario::foco(Campo& destino) {
 }
 
 bool Formulario::dejaActual() {
-    if (actual_ == nullptr || !actual_->enfocable() || !enPantalla(*actual_)) return true;
+    if (actual_ == nullptr || !puedeTenerFoco(*actual_)) return true;
     Campo& dejado = *actual_;
     pedido_ = nullptr;
     comprobando_ = true;
     protegido([&] { comprueba(dejado); });
     comprobando_ = false;
-    if (pedido_ == nullptr) return true;
-    enfoca(*std::exchange(pedido_, nullptr));
+    Campo* pedido = std::exchange(pedido_, nullptr);
+    if (pedido == nullptr) return true;
+    if (!puedeTenerFoco(*pedido)) {
+        // Nobody is held by a field that can't be reached.
+        DatoMal = false;
+        return true;
+    }
+    enfoca(*pedido);
     return false;
 }
 
 void Formulario::comprueba(Campo& campo) {
-    const std::string fechaAntes = campo.fechaAsentada_;
+    const std::string fechaAntes = campo.estado_.fechaAsentada;
     const bool otraFecha = campo.esFecha() && campo.asientaFecha();
     if (campo.def().alSalir) campo.def().alSalir(campo);
     if (pedido_ != nullptr) {
-        campo.fechaAsentada_ = fechaAntes;  // not left yet: whatever stands there now is still to be told
+        campo.estado_.fechaAsentada =
+            fechaAntes;  // not left yet: whatever stands there now is still to be told
     } else if (otraFecha) {
         reacciona(campo);
     }
@@ -147,8 +154,20 @@ void Formulario::pideFoco(Campo& campo) {
     }
 }
 
+bool Formulario::puedeTenerFoco(const Campo& campo) const {
+    return campo.enfocable() && enPantalla(campo);
+}
+
+bool Formulario::rechaza(Campo& campo, std::string_view motivo) {
+    if (motivo.empty()) return false;
+    mensajes().ComunicaError(motivo);
+    DatoMal = true;
+    campo.pideFoco();
+    return true;
+}
+
 void Formulario::enfoca(Campo& campo) {
-    if (!campo.enfocable() || !enPantalla(campo)) return;
+    if (!puedeTenerFoco(campo)) return;
     actual_ = &campo;
     DatoMal = false;
     if (vista_ != nullptr) vista_->enfoca(campo);
@@ -177,9 +196,9 @@ bool Formulario::pulsa(Campo& boton) {
 void Formulario::escribe(Campo& campo, std::string_view texto) {
     protegido([&] {
         const std::string antes = campo.texto();
-        campo.texto_ = depura(campo, texto);
+        campo.estado_.texto = depura(campo, texto);
         if (vista_ != nullptr) vista_->refresca(campo);
-        if (campo.texto_ != antes && campo.def().alEscribir) campo.def().alEscribir(campo);
+        if (campo.estado_.texto != antes && campo.def().alEscribir) campo.def().alEscribir(campo);
     });
 }
 
@@ -204,8 +223,8 @@ void Formulario::elige(Campo& campo, int indice) {
 
 void Formulario::eligeFecha(Campo& campo, Fecha fecha) {
     protegido([&] {
-        campo.texto_ = FormatoFecha(fecha, "dd-MM-yyyy");
-        campo.fechaValida_ = campo.texto_;
+        campo.estado_.texto = FormatoFecha(fecha, "dd-MM-yyyy");
+        campo.estado_.fechaValida = campo.estado_.texto;
         const bool otraFecha = campo.asientaFecha();
         campo.refresca();
         if (otraFecha) reacciona(campo);
@@ -251,35 +270,16 @@ bool Formulario::protegido(const std::function<void()>& accion) {
 // --- Instantanea
 
 Instantanea::Instantanea(Formulario& formulario) {
-    for (Campo& campo : formulario.campos()) {
-        campos_.push_back({&campo, campo.texto(), campo.opciones(), campo.datos(), campo.grafica(),
-                           campo.rotulo(), campo.indice(), campo.pantalla(), campo.marcado(),
-                           campo.visiblePropio(), campo.activo()});
-    }
+    for (Campo& campo : formulario.campos()) campos_.emplace_back(&campo, campo.estado());
     for (Grupo& grupo : formulario.grupos()) grupos_.push_back({&grupo, grupo.titulo(), grupo.visible()});
 }
 
-void Instantanea::restaura(bool& Cargando) const {
-    const MientrasCarga mientras{Cargando};
-    for (const EstadoCampo& estado : campos_) estado.restaura();
+void Instantanea::restaura() const {
+    for (const auto& [campo, estado] : campos_) campo->ponEstado(estado);
     for (const EstadoGrupo& estado : grupos_) {
         estado.grupo->ponTitulo(estado.titulo);
         estado.grupo->ponVisible(estado.visible);
     }
-}
-
-void Instantanea::EstadoCampo::restaura() const {
-    if (campo->esLista()) {
-        campo->rellena(opciones, datos, indice);
-    } else {
-        campo->ponTexto(texto);
-    }
-    campo->ponMarcado(marcado);
-    campo->ponGrafica(grafica);
-    campo->ponRotulo(rotulo);
-    campo->ponPantalla(pantalla);
-    campo->ponVisible(visible);
-    campo->ponActivo(activo);
 }
 
 }  // namespace orvemo

@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "foundations/frame/campo.h"
@@ -93,6 +94,8 @@ class Formulario {
 
     /// Shows a panel and hides the others; focus and calculations are the derived screen's matter.
     void muestra(int pantalla);
+    /// Tells what is wrong with a field and takes the focus back to it; nothing when there is no reason.
+    bool rechaza(Campo& campo, std::string_view motivo);
     /// Moves the focus without checking the field left; nothing happens if the field can't take it.
     void enfoca(Campo& campo);
     /// Moves the focus to the first field of the panel on view that can take it.
@@ -112,10 +115,12 @@ class Formulario {
     bool DatoMal = false;   ///< a check has failed and the focus is being taken back
 
   private:
+    friend class Bloque;
     friend class Campo;
     friend class Grupo;
 
     [[nodiscard]] bool dejaActual();
+    [[nodiscard]] bool puedeTenerFoco(const Campo& campo) const;
     void comprueba(Campo& campo);
     void pideFoco(Campo& campo);
     void reacciona(Campo& campo);
@@ -140,30 +145,15 @@ class Instantanea {
   public:
     explicit Instantanea(Formulario& formulario);
     /// Puts every field and group back as it was, without reactions.
-    void restaura(bool& Cargando) const;
+    void restaura() const;
 
   private:
-    struct EstadoCampo {
-        Campo* campo;
-        std::string texto;
-        std::vector<std::string> opciones;
-        std::vector<std::int64_t> datos;
-        Grafica grafica;
-        std::string rotulo;
-        int indice;
-        int pantalla;
-        bool marcado;
-        bool visible;
-        bool activo;
-
-        void restaura() const;
-    };
     struct EstadoGrupo {
         Grupo* grupo;
         std::string titulo;
         bool visible;
     };
-    std::vector<EstadoCampo> campos_;
+    std::vector<std::pair<Campo*, Campo::Estado>> campos_;
     std::vector<EstadoGrupo> grupos_;
 };
 

@@ -9,21 +9,20 @@ namespace {
 
 constexpr std::string_view kPatronFecha = "dd-MM-yyyy";
 
-/// A number too large for a double is beyond every limit.
-bool enRango(std::string_view texto, double minimo, double maximo) {
-    try {
-        return EntreLimites(LeeNumero(texto), minimo, maximo);
-    } catch (const DesbordeNumerico&) {
-        return false;
-    }
-}
-
 std::string mensajeDeRango(std::string_view minimo, std::string_view maximo) {
     return "El número no es correcto. Debe introducir un número entre " + std::string{minimo} + " y " +
            std::string{maximo};
 }
 
 }  // namespace
+
+bool NumeroEntre(std::string_view texto, double minimo, double maximo) {
+    try {
+        return EntreLimites(LeeNumero(texto), minimo, maximo);
+    } catch (const DesbordeNumerico&) {
+        return false;
+    }
+}
 
 void CompruebaFecha(ControlTexto& campo, bool& DatoMal, Mensajes& mensajes, const Reloj& reloj) {
     if (DatoMal) return;
@@ -41,10 +40,10 @@ void CompruebaFecha(ControlTexto& campo, bool& DatoMal, Mensajes& mensajes, cons
 void CompruebaRango(ControlTexto& campo, std::string_view minimo, std::string_view maximo, bool& DatoMal,
                     Mensajes& mensajes) {
     if (DatoMal) return;
-    if (!enRango(campo.texto(), LimiteDe(minimo), LimiteDe(maximo))) {
+    if (!NumeroEntre(campo.texto(), LimiteDe(minimo), LimiteDe(maximo))) {
         mensajes.ComunicaError(mensajeDeRango(minimo, maximo));
-        campo.pideFoco();
         DatoMal = true;
+        campo.pideFoco();
         return;
     }
     DatoMal = false;

@@ -17,6 +17,10 @@ class ControlTexto {
     virtual void pideFoco() = 0;
 };
 
+/// Whether the number at the head of a text, read by LeeNumero, lies between the limits. One too large for a
+/// double lies beyond every limit.
+[[nodiscard]] bool NumeroEntre(std::string_view texto, double minimo, double maximo);
+
 /// A date, rewritten as "dd-MM-yyyy". A bad one is told, today's date takes its place and the focus comes
 /// back. Does nothing while `DatoMal` is set.
 void CompruebaFecha(ControlTexto& campo, bool& DatoMal, Mensajes& mensajes, const Reloj& reloj);

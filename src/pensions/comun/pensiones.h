@@ -7,6 +7,9 @@
 
 namespace orvemo::pensiones {
 
+inline constexpr int kAnioDelPrograma = 2005;  ///< year of the figures of the law
+inline constexpr double kSubidaAnual = 1.02;   ///< of prices and bases in the years after it
+
 /// A period of contribution. Its days are `hasta` minus `desde`: the last one is not counted.
 struct Periodo {
     Fecha desde;

@@ -19,7 +19,7 @@ pensiones::SerieBases serieDe(const RegistroJubilacion& caso) {
 
 }  // namespace
 
-Fecha FechaReferencia(Regimen regimen, Fecha JubiFechaJub, const UltimosDias& JubiPerHasta) {
+Fecha FechaReferencia(Regimen regimen, Fecha JubiFechaJub, std::span<const std::string> JubiPerHasta) {
     if (regimen != Regimen::General) return JubiFechaJub;
     const auto ultimo = pensiones::UltimoDiaCercano(JubiPerHasta, JubiFechaJub);
     if (!ultimo) return JubiFechaJub;
@@ -29,7 +29,7 @@ Fecha FechaReferencia(Regimen regimen, Fecha JubiFechaJub, const UltimosDias& Ju
 }
 
 Fecha FechaReferencia(const RegistroJubilacion& caso) {
-    UltimosDias dias;
+    std::array<std::string, kFilasPeriodos> dias;
     for (std::size_t i = 0; i < dias.size(); ++i) dias[i] = caso.JubiPerHasta[i].utf8();
     return FechaReferencia(regimenDe(caso), caso.JubiFechaJub, dias);
 }

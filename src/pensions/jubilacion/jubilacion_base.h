@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <span>
 #include <string>
 
 #include "pensions/comun/tablas_pensiones.h"
@@ -8,13 +8,12 @@
 
 namespace orvemo::jubilacion {
 
-/// The last days of the ten periods, as they stand on the screen or in the record.
-using UltimosDias = std::array<std::string, kFilasPeriodos>;
-
 /// The date from which the monthly bases are counted back. In the general scheme it is the last day of
 /// contribution if within 90 days of the retirement, or the day after when that lies in a later month number
-/// of the year; in every other case it is the retirement.
-[[nodiscard]] Fecha FechaReferencia(Regimen regimen, Fecha JubiFechaJub, const UltimosDias& JubiPerHasta);
+/// of the year; in every other case it is the retirement. `JubiPerHasta` are the last days of the ten
+/// periods, as they stand on the screen or in the record.
+[[nodiscard]] Fecha FechaReferencia(Regimen regimen, Fecha JubiFechaJub,
+                                    std::span<const std::string> JubiPerHasta);
 
 /// The same, of a case.
 [[nodiscard]] Fecha FechaReferencia(const RegistroJubilacion& caso);

@@ -9,8 +9,8 @@ namespace orvemo::jubilacion {
 /// The old-age pension of before 1967, euros a month (2005).
 inline constexpr double kPensionSOVI = 313.21;
 
-inline constexpr int kAnioDelPrograma = 2005;  ///< year of the figures of the law
-inline constexpr double kSubidaAnual = 1.02;   ///< of prices and bases in the years after it
+using pensiones::kAnioDelPrograma;
+using pensiones::kSubidaAnual;
 
 /// Works out the pension of a person with a right to it and writes its conclusions. `bonificacion` is the
 /// percentage for retiring after 65, `hoy` the day whose prices a projected base is told in. Throws

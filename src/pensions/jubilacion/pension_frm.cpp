@@ -1,8 +1,10 @@
 #include "pensions/jubilacion/pension_frm.h"
 
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 #include "pensions/jubilacion/jubilacion.h"
+#include "pensions/jubilacion/jubilacion_base.h"
 #include "pensions/jubilacion/jubilacion_cuantia.h"
 
 namespace orvemo {
@@ -10,23 +12,10 @@ namespace orvemo {
 namespace {
 
 using jubilacion::kAnioDelPrograma;
-using jubilacion::kFilasPeriodos;
 using jubilacion::Regimen;
 
 constexpr double kMaximaBaseActual = 999'999;
 constexpr double kMaximaSuma = 99'999'999;
-
-std::string_view motivoDeDesde(const std::string& desde) {
-    if (EsVacio(desde) || EsFecha(desde)) return {};
-    return "La fecha no es correcta. Debe ser de tipo dd-mm-aaaa";
-}
-
-std::string_view motivoDeHasta(const std::string& desde, const std::string& hasta) {
-    if (EsVacio(hasta)) return EsVacio(desde) ? "" : "La fecha no puede quedar en blanco.";
-    if (!EsFecha(hasta)) return "La fecha no es correcta. Debe ser de tipo dd-mm-aaaa";
-    if (EsVacio(desde) || FechaDe(hasta) >= FechaDe(desde)) return {};
-    return "La fecha de finalización del periodo no puede ser anterior a la inicial.";
-}
 
 }  // namespace
 
@@ -41,44 +30,36 @@ PensionFrm::PensionFrm(Entorno& entorno)
                                   "", "", "", "", "CONCLUSIONES SOBRE PENSIÓN DE JUBILACIÓN"},
                    .campoNombre = "JubiNombre"}},
       JubiNombre{nuevo({.nombre = "JubiNombre", .rotulo = "Nombre completo:", .largo = 80})},
-      JubiFechaNac{
-          nuevo({.nombre = "JubiFechaNac", .rotulo = "Fecha de nacimiento:", .clase = Clase::FechaSelector})},
+      JubiFechaNac{nuevo(fechaElegida("JubiFechaNac", "Fecha de nacimiento:"))},
       JubiFechaJub{nuevo({.nombre = "JubiFechaJub",
                           .rotulo = "Fecha efectiva de la jubilación:",
                           .clase = Clase::FechaSelector,
                           .alSalir = [this](Campo&) { compruebaFechaJub(); },
                           .alCambiar = [this](Campo&) { ajustaVisibles(); }})},
-      JubiRegimen{
-          nuevo({.nombre = "JubiRegimen",
-                 .rotulo = "Régimen de la Seguridad Social:",
-                 .clase = Clase::Lista,
-                 .opciones = {"R. General", "R.E. Autónomos", "R.E. Agrario", "R.E. Empleados de hogar",
-                              "Sustitución a los 64 años", "Jubilación Parcial"},
-                 .alCambiar = [this](Campo&) { ajustaVisibles(); }})},
-      JubiRedJor{nuevo({.nombre = "JubiRedJor",
-                        .rotulo = "% Reducción de Jornada:",
-                        .defecto = "0",
-                        .contenido = Contenido::Decimal,
-                        .visible = false})},
-      JubiConyuge{
-          nuevo({.nombre = "JubiConyuge", .rotulo = "Tiene cónyuge que mantener", .clase = Clase::Casilla})},
-      JubiVoluntario{nuevo({.nombre = "JubiVoluntario",
-                            .rotulo = "Marque si el cese es voluntario",
-                            .clase = Clase::Casilla})},
-      JubiNoImputable{nuevo(
-          {.nombre = "JubiNoImputable", .rotulo = "Marque si no le es imputable ", .clase = Clase::Casilla})},
+      JubiRegimen{nuevo(lista("JubiRegimen", "Régimen de la Seguridad Social:",
+                              {"R. General", "R.E. Autónomos", "R.E. Agrario", "R.E. Empleados de hogar",
+                               "Sustitución a los 64 años", "Jubilación Parcial"},
+                              [this](Campo&) { ajustaVisibles(); }))},
+      JubiConyuge{nuevo(casilla("JubiConyuge", "Tiene cónyuge que mantener"))},
+      JubiVoluntario{nuevo(casilla("JubiVoluntario", "Marque si el cese es voluntario"))},
+      JubiNoImputable{nuevo(casilla("JubiNoImputable", "Marque si no le es imputable "))},
+      JubiRedJor{nuevoNumero("JubiRedJor", "% Reducción de Jornada:", kDatos)},
       JubiBaseActual{
           nuevo({.nombre = "JubiBaseActual",
                  .rotulo = "Base Mensual Actual de cotización (para estimar bases futuras):",
                  .defecto = "0",
                  .contenido = Contenido::Decimal,
-                 .formato = kFormatoBase,
+                 .formato = "###,##0.00",
                  .alSalir = [this](Campo& base) { compruebaImporte(base, kMaximaBaseActual, "999,999"); },
                  .visible = false})},
-      periodos{nuevasFilas()},
-      HorasTP{nuevasHoras("HorasTP", "Horas totales cotizadas en contratos a tiempo parcial:")},
-      HorasTP15{
-          nuevasHoras("HorasTP15", "Horas cotizadas en contratos a tiempo parcial los últimos 15 años:")},
+      HorasTP{nuevoNumero("HorasTP", "Horas totales cotizadas en contratos a tiempo parcial:", kPeriodos)},
+      HorasTP15{nuevoNumero("HorasTP15",
+                            "Horas cotizadas en contratos a tiempo parcial los últimos 15 años:", kPeriodos)},
+      periodos{*this,
+               {.prefijo = "Jubi",
+                .grupo = "Periodos",
+                .filas = jubilacion::kFilasPeriodos,
+                .pantalla = kPeriodos}},
       JubiBasesDesglosadas{nuevo({.nombre = "JubiBasesDesglosadas",
                                   .rotulo = "Introducir las bases de cotización una a una",
                                   .clase = Clase::Casilla,
@@ -92,51 +73,41 @@ PensionFrm::PensionFrm(Entorno& entorno)
                  .contenido = Contenido::Decimal,
                  .formato = "##,###,##0.00",
                  .alSalir = [this](Campo& suma) { compruebaImporte(suma, kMaximaSuma, "99,999,999"); }})},
-      bases_{nuevasBases()} {}
+      bases{*this,
+            {.nombre = "JubiBase",
+             .marco = "JubiBases",
+             .lineas = jubilacion::kLineasGuardadas,
+             .primeraPantalla = kPrimerMarco}} {
+    enlazaCampos();
+}
 
-Campo& PensionFrm::nuevasHoras(std::string nombre, std::string rotulo) {
+Campo& PensionFrm::nuevoNumero(std::string nombre, std::string rotulo, int pantalla) {
     return nuevo({.nombre = std::move(nombre),
                   .rotulo = std::move(rotulo),
-                  .pantalla = kPeriodos,
+                  .pantalla = pantalla,
                   .defecto = "0",
                   .contenido = Contenido::Decimal});
 }
 
-PensionFrm::FilaPeriodo PensionFrm::nuevaFila(Grupo& grupo, int fila) {
-    const auto i = static_cast<std::size_t>(fila - 1);
-    return {nuevo({.nombre = "JubiPerDesde",
-                   .indice = fila,
-                   .clase = Clase::FechaEscrita,
-                   .pantalla = kPeriodos,
-                   .grupo = &grupo,
-                   .largo = 10,
-                   .alSalir = [this](Campo& desde) { rechaza(desde, motivoDeDesde(desde.texto())); }}),
-            nuevo({.nombre = "JubiPerHasta",
-                   .indice = fila,
-                   .clase = Clase::FechaEscrita,
-                   .pantalla = kPeriodos,
-                   .grupo = &grupo,
-                   .largo = 10,
-                   .alSalir =
-                       [this, i](Campo& hasta) {
-                           rechaza(hasta, motivoDeHasta(periodos[i].JubiPerDesde.texto(), hasta.texto()));
-                       }}),
-            nuevo({.nombre = "JubiPerEmpresa",
-                   .indice = fila,
-                   .pantalla = kPeriodos,
-                   .grupo = &grupo,
-                   .largo = 20})};
-}
-
-std::vector<PensionFrm::FilaPeriodo> PensionFrm::nuevasFilas() {
-    Grupo& tabla = nuevoGrupo({.nombre = "Periodos",
-                               .pantalla = kPeriodos,
-                               .disposicion = Disposicion::Tabla,
-                               .columnas = 3,
-                               .encabezados = {"Desde", "Hasta", "Empresa"}});
-    std::vector<FilaPeriodo> filas;
-    for (int fila = 1; fila <= kFilasPeriodos; ++fila) filas.push_back(nuevaFila(tabla, fila));
-    return filas;
+/// In the order of the record. What can't be read counts 0.
+void PensionFrm::enlazaCampos() {
+    using Caso = RegistroDelCaso;
+    enlaza(JubiNombre, &Caso::JubiNombre);
+    enlaza(JubiFechaNac, &Caso::JubiFechaNac, vias::kFechaOCero);
+    enlaza(JubiFechaJub, &Caso::JubiFechaJub, vias::kFechaOCero);
+    enlaza(JubiRegimen, &Caso::JubiRegimen);
+    enlaza(JubiConyuge, &Caso::JubiConyuge);
+    enlaza(JubiVoluntario, &Caso::JubiVoluntario);
+    enlaza(JubiNoImputable, &Caso::JubiNoImputable);
+    periodos.enlaza(enlaces(), &Caso::JubiPerDesde, &Caso::JubiPerHasta, &Caso::JubiPerEmpresa);
+    enlaza(JubiBasesDesglosadas, &Caso::JubiBasesDesglosadas);
+    bases.enlaza(enlaces(), &Caso::JubiBase);
+    enlaza(JubiSumaBases, &Caso::JubiSumaBases, vias::kImporteOCero);
+    enlaza(JubiBaseActual, &Caso::JubiBaseActual, vias::kImporteOCero);
+    enlaza(JubiRedJor, &Caso::JubiRedJor, vias::kNumeroOCero);
+    enlaza(HorasTP, &Caso::HorasTP, vias::kNumeroOCero);
+    enlaza(HorasTP15, &Caso::HorasTP15, vias::kNumeroOCero);
+    enlaza([](Caso& caso) { caso.marca.asigna("DP"); }, [](const Caso&) {});
 }
 
 // --- Panels
@@ -148,32 +119,34 @@ void PensionFrm::Inicia() {
 
 void PensionFrm::LimpiaDatos() {
     AsistenteDe::LimpiaDatos();
-    baseActualProyectada_ = 0;
-    BaseEditada_ = false;
+    bases.olvida();
+    ajustaVisibles();
+    preparaSerie();
+}
+
+void PensionFrm::trasCargar() {
+    // Unchanged data must not offer a new projection.
+    bases.olvida(DobleDe(JubiBaseActual.texto()));
     ajustaVisibles();
     preparaSerie();
 }
 
 bool PensionFrm::ValidaPantalla() {
-    if (PantallaActual() != kPeriodos) return true;
-    for (const FilaPeriodo& fila : periodos) {
-        const std::string& desde = fila.JubiPerDesde.texto();
-        if (rechaza(fila.JubiPerDesde, motivoDeDesde(desde))) return false;
-        if (rechaza(fila.JubiPerHasta, motivoDeHasta(desde, fila.JubiPerHasta.texto()))) return false;
-    }
-    return true;
+    return PantallaActual() != kPeriodos || periodos.valida();
+}
+
+int PensionFrm::ultimoMarco() const {
+    return kPrimerMarco + bases.pantallas() - 1;
 }
 
 int PensionFrm::pantallaSiguiente(int pantalla) const {
-    const int ultimoMarco = kPrimerMarco + serie_.PantallasBases - 1;
-    const bool terminanLasBases =
-        JubiBasesDesglosadas.marcado() ? pantalla >= ultimoMarco : pantalla >= kModoBases;
-    return terminanLasBases ? kConclusiones : pantalla + 1;
+    const int ultimaDeBases = JubiBasesDesglosadas.marcado() ? ultimoMarco() : kModoBases;
+    return pantalla >= ultimaDeBases ? kConclusiones : pantalla + 1;
 }
 
 int PensionFrm::pantallaAnterior(int pantalla) const {
     if (pantalla != kConclusiones) return pantalla - 1;
-    return JubiBasesDesglosadas.marcado() ? kPrimerMarco + serie_.PantallasBases - 1 : kModoBases;
+    return JubiBasesDesglosadas.marcado() ? ultimoMarco() : kModoBases;
 }
 
 void PensionFrm::dejaPantalla(int pantalla) {
@@ -185,7 +158,7 @@ void PensionFrm::dejaPantalla(int pantalla) {
 std::string PensionFrm::subtituloDe(int pantalla) const {
     const int marco = pantalla - kPrimerMarco + 1;
     if (marco < 1 || marco > kMarcos) return AsistenteDe::subtituloDe(pantalla);
-    return "Bases de cotización de los últimos " + TextoPlano(serie_.MesesBases) + "  meses (" +
+    return "Bases de cotización de los últimos " + TextoPlano(bases.meses()) + "  meses (" +
            TextoPlano(marco) + ")";
 }
 
@@ -193,18 +166,34 @@ void PensionFrm::calcula(Dictamen& dictamen) {
     jubilacion::CalculaJubilacion(caso_, tablas_.value(), hoy(), dictamen);
 }
 
+// --- Series of bases
+
+void PensionFrm::PreparaBasesJubilacion() {
+    preparaSerie();
+    bases.proyecta(DobleDe(JubiBaseActual.texto()));
+}
+
+void PensionFrm::preparaSerie() {
+    const Fecha jubilacion = FechaDe(JubiFechaJub.texto());
+    const auto regimen = static_cast<Regimen>(JubiRegimen.indice() + 1);
+    bases.prepara(jubilacion::FechaReferencia(regimen, jubilacion, periodos.ultimosDias()),
+                  pensiones::SerieBasesDe(Anio(jubilacion)).MesesBases);
+}
+
 // --- Reactions and checks
 
+bool PensionFrm::esFuturo() const {
+    return Anio(FechaDe(JubiFechaJub.texto())) > kAnioDelPrograma;
+}
+
 void PensionFrm::ajustaVisibles() {
-    const bool esFuturo = Anio(FechaDe(JubiFechaJub.texto())) > kAnioDelPrograma;
-    JubiBaseActual.ponVisible(entorno().valores.VerBaseActual && esFuturo);
+    JubiBaseActual.ponVisible(entorno().valores.VerBaseActual && esFuturo());
     JubiRedJor.ponVisible(JubiRegimen.indice() + 1 == static_cast<int>(Regimen::Parcial));
     JubiSumaBases.ponVisible(!JubiBasesDesglosadas.marcado());
 }
 
 void PensionFrm::compruebaFechaJub() {
-    const bool esFuturo = Anio(FechaDe(JubiFechaJub.texto())) > kAnioDelPrograma;
-    if (esFuturo && !entorno().valores.VerBaseActual) {
+    if (esFuturo() && !entorno().valores.VerBaseActual) {
         mensajes().ComunicaError("La fecha debe ser del año en curso");
         JubiFechaJub.ponTexto("31-12-" + TextoPlano(kAnioDelPrograma));
         JubiFechaJub.pideFoco();
@@ -213,18 +202,9 @@ void PensionFrm::compruebaFechaJub() {
 }
 
 void PensionFrm::compruebaImporte(Campo& campo, double maximo, std::string_view maximoEscrito) {
-    if (DatoMal || EntreLimites(LeeNumero(campo.texto()), 0.0, maximo)) return;
+    if (DatoMal || NumeroEntre(campo.texto(), 0, maximo)) return;
     rechaza(campo,
             "El número no es correcto. Debe introducir un número entre 0 y " + std::string{maximoEscrito});
-}
-
-/// Tells what is wrong with a field and takes the focus back to it; nothing when there is no reason.
-bool PensionFrm::rechaza(Campo& campo, std::string_view motivo) {
-    if (motivo.empty()) return false;
-    mensajes().ComunicaError(motivo);
-    DatoMal = true;
-    campo.pideFoco();
-    return true;
 }
 
 }  // namespace orvemo

@@ -2,18 +2,15 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "foundations/frame/asistente.h"
+#include "pensions/comun/lineas_bases.h"
 #include "pensions/comun/pensiones.h"
+#include "pensions/comun/periodos_cotizados.h"
 #include "pensions/comun/tablas_pensiones.h"
-#include "pensions/jubilacion/jubilacion_base.h"
 #include "pensions/jubilacion/jubilacion_registro.h"
 
 namespace orvemo {
-
-class Informe;
 
 /// "PENSIONES DE JUBILACIÓN": the person's data, the periods, the bases as a sum or month by month, and the
 /// conclusions.
@@ -28,14 +25,9 @@ class PensionFrm final : public AsistenteDe<jubilacion::RegistroJubilacion, jubi
     void ImprimeInforme(RutinasImpresion& rutinas) override;
 
     /// The monthly base of line i, from 1, the latest month.
-    [[nodiscard]] Campo& JubiBase(int i) { return *bases_[static_cast<std::size_t>(i - 1)]; }
-    [[nodiscard]] const Campo& JubiBase(int i) const { return *bases_[static_cast<std::size_t>(i - 1)]; }
-    /// The series of bases as last prepared.
-    [[nodiscard]] const pensiones::SerieBases& serie() const { return serie_; }
+    [[nodiscard]] Campo& JubiBase(int i) const { return bases.base(i); }
 
   protected:
-    void tomaCampos() override;
-    void cargaCampos() override;
     void trasCargar() override;
     void calcula(Dictamen& dictamen) override;
     [[nodiscard]] int pantallaSiguiente(int pantalla) const override;
@@ -52,38 +44,15 @@ class PensionFrm final : public AsistenteDe<jubilacion::RegistroJubilacion, jubi
     static constexpr int kMarcos = 5;
     static constexpr int kConclusiones = kPrimerMarco + kMarcos;
 
-    static constexpr const char* kFormatoBase = "###,##0.00";
-    static constexpr const char* kTextoImporte = "#0.00";  ///< as amounts are read: no thousands marks
-
-    struct FilaPeriodo {
-        Campo& JubiPerDesde;
-        Campo& JubiPerHasta;
-        Campo& JubiPerEmpresa;
-    };
-
-    // --- Declaration
-    FilaPeriodo nuevaFila(Grupo& grupo, int fila);
-    Campo& nuevasHoras(std::string nombre, std::string rotulo);
-    std::vector<FilaPeriodo> nuevasFilas();
-    std::vector<Campo*> nuevasBases();
-
-    // --- Reactions
+    Campo& nuevoNumero(std::string nombre, std::string rotulo, int pantalla);
+    void enlazaCampos();
     void ajustaVisibles();
     void compruebaFechaJub();
     void compruebaImporte(Campo& campo, double maximo, std::string_view maximoEscrito);
-    bool rechaza(Campo& campo, std::string_view motivo);
-    void dejaBase(int i);
-
-    // --- Series of bases
     void PreparaBasesJubilacion();
     void preparaSerie();
-    void proyectaBases();
-    [[nodiscard]] std::string rotuloDeBase(int i) const;
-    [[nodiscard]] int anioDeBase(int i) const;
-    [[nodiscard]] jubilacion::UltimosDias ultimosDias() const;
-
-    void tomaPeriodos();
-    void cargaPeriodos();
+    [[nodiscard]] int ultimoMarco() const;
+    [[nodiscard]] bool esFuturo() const;
     void imprimeBases(Informe& informe) const;
 
   public:
@@ -91,24 +60,20 @@ class PensionFrm final : public AsistenteDe<jubilacion::RegistroJubilacion, jubi
     Campo& JubiFechaNac;
     Campo& JubiFechaJub;
     Campo& JubiRegimen;
-    Campo& JubiRedJor;
     Campo& JubiConyuge;
     Campo& JubiVoluntario;
     Campo& JubiNoImputable;
+    Campo& JubiRedJor;
     Campo& JubiBaseActual;
-    std::vector<FilaPeriodo> periodos;
     Campo& HorasTP;
     Campo& HorasTP15;
+    pensiones::PeriodosCotizados periodos;
     Campo& JubiBasesDesglosadas;
     Campo& JubiSumaBases;
+    pensiones::LineasBases bases;
 
   private:
-    std::vector<Campo*> bases_;
     std::optional<pensiones::TablasPensiones> tablas_;
-    pensiones::SerieBases serie_{};
-    Fecha referencia_{};
-    double baseActualProyectada_ = 0;  ///< `JubiBaseActual` when the bases were last prepared
-    bool BaseEditada_ = false;         ///< a line was typed in since the last copy forward
 };
 
 }  // namespace orvemo
