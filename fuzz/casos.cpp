@@ -2,7 +2,6 @@
 // as it was, and any record goes through the layouts and back.
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -17,6 +16,7 @@
 #include "catalogue/catalogo.h"
 #include "exige.h"
 #include "foundations/values/textos.h"
+#include "longitudes.h"
 
 namespace {
 
@@ -51,7 +51,10 @@ class Prueba {
         const auto lista = archivo_.lista();
         exige(lista.size() <= static_cast<std::size_t>(archivo_.cuenta()), "no more cases than records");
         for (const EntradaSupuesto& entrada : lista) {
-            const std::string registro = archivo_.lee(entrada.registro);
+            const auto entero = registroEntero(entrada.registro);
+            exige(entero || entrada.registro == archivo_.cuenta(), "the last alone may be partial");
+            if (!entero) continue;
+            const std::string& registro = *entero;
             exige(registro.front() != kRegistroLibre, "free slots aren't listed");
             exige(CuentaCaracteres(entrada.nombre) <= kAnchoNombre, "a name fits its field");
             exige(A1252(entrada.nombre).size() == CuentaCaracteres(entrada.nombre), "and 1252 has it all");
@@ -89,10 +92,12 @@ class Prueba {
         const auto lista = archivo_.lista();
         if (lista.empty()) return;
         const int r = lista[cual % lista.size()].registro;
-        const std::string antes = archivo_.lee(r);
+        const auto antes = registroEntero(r);
         escribe(averia, [&] {
             archivo_.borra(r);
-            exige(archivo_.lee(r).substr(kAnchoCabecera) == antes.substr(kAnchoCabecera), "the rest stays");
+            if (antes)
+                exige(archivo_.lee(r).substr(kAnchoCabecera) == antes->substr(kAnchoCabecera),
+                      "the rest stays");
             exige(archivo_.lista().size() == lista.size() - 1, "an erased case is one less");
         });
     }
@@ -109,6 +114,15 @@ class Prueba {
     }
 
   private:
+    /// nullopt for a partial last record.
+    [[nodiscard]] std::optional<std::string> registroEntero(int r) const {
+        try {
+            return archivo_.lee(r);
+        } catch (const FicheroInaccesible&) {
+            return std::nullopt;
+        }
+    }
+
     /// A write that fails once leaves the file as it was.
     void escribe(std::optional<Averia> averia, auto&& operacion) {
         const std::string antes = almacen_[kNombre];
@@ -125,9 +139,6 @@ class Prueba {
     AlmacenMemoria almacen_;
     ArchivoSupuestos archivo_;
 };
-
-constexpr std::array<std::size_t, 12> kLongitudes{207, 239, 260, 274,  297,  307,
-                                                  341, 482, 863, 1046, 1411, 2592};
 
 /// One operation, in four bytes of the input.
 struct Paso {

@@ -1,3 +1,4 @@
+#include <csignal>
 #include <exception>
 #include <filesystem>
 #include <string>
@@ -50,6 +51,8 @@ int ejecuta(orvemo::Aplicacion& aplicacion, orvemo::Mensajes& mensajes) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A limit on the size of files fails the write and doesn't end the program in the middle of it.
+    std::signal(SIGXFSZ, SIG_IGN);
     orvemo::MensajesQt mensajes;
     orvemo::Aplicacion aplicacion{argc, argv, mensajes};
     try {

@@ -293,7 +293,7 @@ std::string leeValor(const std::string& campo, const Forma& forma, const ValorDe
 }  // namespace
 
 CampoIncorrecto::CampoIncorrecto(std::string_view nombre, const std::string& motivo)
-    : Fallo{(nombre.empty() ? std::string{"el supuesto"} : "el campo \"" + std::string{nombre} + "\"") +
+    : Fallo{(nombre.empty() ? std::string{"el supuesto"} : "el campo " + EntreComillas(nombre)) +
             " no es correcto: " + motivo},
       campo{nombre} {}
 

@@ -47,7 +47,8 @@ std::optional<std::string> Lineas::siguiente() {
         if (byte == std::char_traits<char>::eof()) return std::nullopt;
         ++numero_;
         for (; byte != '\n' && byte != std::char_traits<char>::eof(); byte = bytes.sbumpc()) {
-            if (linea.size() == kMaximoLinea) throw Fallo{"la línea " + std::to_string(numero_) + " es demasiado larga para un supuesto"};
+            if (linea.size() == kMaximoLinea)
+                throw Fallo{"la línea " + std::to_string(numero_) + " es demasiado larga para un supuesto"};
             linea += static_cast<char>(byte);
         }
     } while (linea.find_first_not_of(kBlancos) == std::string::npos);

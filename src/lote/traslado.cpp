@@ -16,7 +16,8 @@ namespace {
 std::string leeRegistro(const Forma& forma, const std::string& linea) {
     std::string bytes = LeeCampos(forma, LeeJson(linea));
     if (bytes.front() == kRegistroLibre)
-        throw CampoIncorrecto{forma.miembros.front().nombre, "un supuesto no lleva \"*\", que es de los huecos"};
+        throw CampoIncorrecto{forma.miembros.front().nombre,
+                              "un supuesto no lleva \"*\", que es de los huecos"};
     return bytes;
 }
 

@@ -1,11 +1,10 @@
 #include "toolkit/impresora_pdf.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <utility>
 
+#include "foundations/values/almacen.h"
 #include "foundations/values/fallos.h"
 
 namespace orvemo {
@@ -14,11 +13,13 @@ namespace {
 
 constexpr int kPuntosPorPulgada = 1200;
 
+/// The name may hold any bytes, which the library's own files don't take.
 void guarda(const std::filesystem::path& ruta, const QByteArray& contenido) {
-    QSaveFile fichero{QFile::decodeName(ruta.c_str())};
-    const bool guardado = fichero.open(QIODevice::WriteOnly) &&
-                          fichero.write(contenido) == contenido.size() && fichero.commit();
-    if (!guardado) throw FalloImpresion{"no se puede escribir el fichero «" + ruta.string() + "»"};
+    try {
+        SustituyeFichero(ruta, {contenido.constData(), static_cast<std::size_t>(contenido.size())});
+    } catch (const FicheroInaccesible&) {
+        throw FalloImpresion{"no se puede escribir el fichero «" + ruta.string() + "»"};
+    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "foundations/values/textos.h"
 #include "toolkit/iconos.h"
 #include "toolkit/lista_textos.h"
 #include "toolkit/medidas.h"
@@ -41,7 +42,7 @@ void hazPrincipal(QPushButton& boton, Dibujo dibujo) {
 std::vector<std::string> nombres(const std::vector<EntradaSupuesto>& entradas) {
     std::vector<std::string> lista;
     lista.reserve(entradas.size());
-    for (const EntradaSupuesto& entrada : entradas) lista.push_back(entrada.nombre);
+    for (const EntradaSupuesto& entrada : entradas) lista.push_back(ControlesALaVista(entrada.nombre));
     return lista;
 }
 

@@ -218,6 +218,10 @@ TEST_F(LoteTest, PrintsEachReportToItsPdf) {
     std::string cabecera(5, ' ');
     pdf.read(cabecera.data(), 5);
     EXPECT_EQ(cabecera, "%PDF-");
+    opciones.pdf = lugar / "mu\xF1oz";
+    fs::create_directory(*opciones.pdf);
+    EXPECT_EQ(ejecutaLote(), kTodoCalculado) << "a name of other bytes than UTF-8's";
+    EXPECT_GT(fs::file_size(*opciones.pdf / "desempleo-1.pdf"), 0U);
 }
 
 }  // namespace

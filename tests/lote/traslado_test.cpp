@@ -81,8 +81,9 @@ TEST_F(TrasladoTest, ALineThatIsNoCaseSaysWhichFieldAndWhatWasExpectedAndNothing
         const char* dicho;
     } casos[] = {
         {R"("Edad":38)", R"("Edad":38,"Edat":1)", R"(el campo "Edat" no es correcto: no es un campo)"},
-        {R"("Edad":38,)", "", R"(el campo "Edad" no es correcto: falta; se esperaba un número entero de )"
-                              "-2147483648 a 2147483647"},
+        {R"("Edad":38,)", "",
+         R"(el campo "Edad" no es correcto: falta; se esperaba un número entero de )"
+         "-2147483648 a 2147483647"},
         {R"(:38)", ":2147483648", "se esperaba un número entero de -2147483648 a 2147483647"},
         {R"(:38)", ":38.5", "se esperaba un número entero"},
         {R"(:38)", ":\"38\"", "se esperaba un número entero"},
@@ -90,7 +91,8 @@ TEST_F(TrasladoTest, ALineThatIsNoCaseSaysWhichFieldAndWhatWasExpectedAndNothing
         {R"(7650.5)", "true", "se esperaba un número"},
         {"06-13", "06-31", R"(el campo "Fecha" no es correcto: se esperaba una fecha ("AAAA-MM-DD"))"},
         {"2005-06-13", "13-06-2005", "se esperaba una fecha"},
-        {"Peña", "Łódź", "un texto de 80 caracteres como mucho y el carácter \"Ł\" no existe en Windows-1252"},
+        {"Peña", "Łódź",
+         "un texto de 80 caracteres como mucho y el carácter \"Ł\" no existe en Windows-1252"},
         {R"("reservado":null)", R"("reservado":[])", "un texto de 92 caracteres como mucho"},
         {R"("Estado":"")", R"("Estado":"*")", "\"*\", que es de los huecos"},
         {R"("Estado":"")", R"("Estado":"  ")", "un texto de 1 caracteres como mucho"},

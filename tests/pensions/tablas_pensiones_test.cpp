@@ -72,6 +72,9 @@ TEST(LeeIPC, BlamesTheLineThatIsWrong) {
 TEST(IniciaPensiones, NeedsTheFile) {
     pruebas::AlmacenMemoria almacen;
     EXPECT_THROW(static_cast<void>(IniciaPensiones(almacen)), FicheroInaccesible);
+    almacen["IPC.TXT"] = "";
+    EXPECT_THROW(static_cast<void>(IniciaPensiones(almacen)), FicheroMalFormado)
+        << "it divided by zero later";
     almacen["IPC.TXT"] = ipcDe(21);
     EXPECT_EQ(IniciaPensiones(almacen).IPCDe(2004, 12).valor, 351.5);
 }

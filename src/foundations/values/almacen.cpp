@@ -302,10 +302,7 @@ std::string DirectorioAplicacion::leeHasta(std::string_view nombre, std::size_t 
 }
 
 void DirectorioAplicacion::sustituye(std::string_view nombre, std::string_view contenido) {
-    const fs::path fichero = ruta(nombre);
-    Relevo relevo{reemplazable(fichero)};
-    relevo.escribe(contenido);
-    relevo.ocupaSuSitio();
+    SustituyeFichero(ruta(nombre), contenido);
 }
 
 bool DirectorioAplicacion::elimina(std::string_view nombre) {
@@ -325,6 +322,12 @@ fs::path DirectorioAplicacion::ruta(std::string_view nombre) const {
 
 std::unique_ptr<FicheroAleatorio> AbreParaLeer(const fs::path& ruta) {
     return std::make_unique<FicheroEnDisco>(ruta, exigeAbierto(ruta, O_RDONLY));
+}
+
+void SustituyeFichero(const fs::path& ruta, std::string_view contenido) {
+    Relevo relevo{reemplazable(ruta)};
+    relevo.escribe(contenido);
+    relevo.ocupaSuSitio();
 }
 
 bool ExisteArchivo(const fs::path& ruta) {

@@ -74,6 +74,9 @@ class DirectorioAplicacion final : public Almacen {
 /// Opens the file of exactly that path, to be read only. Throws FicheroInaccesible.
 [[nodiscard]] std::unique_ptr<FicheroAleatorio> AbreParaLeer(const std::filesystem::path& ruta);
 
+/// Puts a whole new file in that very place, as Almacen::sustituye does. Throws FicheroInaccesible.
+void SustituyeFichero(const std::filesystem::path& ruta, std::string_view contenido);
+
 /// True when the path names an existing ordinary file; a directory doesn't count.
 [[nodiscard]] bool ExisteArchivo(const std::filesystem::path& ruta);
 

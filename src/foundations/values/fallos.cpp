@@ -1,6 +1,5 @@
 #include "foundations/values/fallos.h"
 
-#include <algorithm>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -21,16 +20,6 @@ std::string nombraNumero(double valor) {
     return corto ? "el número " + TextoPlano(valor) : "un número";
 }
 
-/// The text between quotation marks, on one line and not longer than a message can hold.
-std::string entreComillas(std::string_view texto) {
-    const std::string_view cabe = PrimerosCaracteres(texto, kMuestra);
-    std::string muestra{cabe};
-    std::replace_if(
-        muestra.begin(), muestra.end(), [](char c) { return c >= 0 && c < ' '; }, ' ');
-    if (cabe.size() < texto.size()) muestra += "…";
-    return '"' + muestra + '"';
-}
-
 std::string dosCifras(int numero) {
     return FormatoNumero(numero, "00");
 }
@@ -41,13 +30,18 @@ std::string nombraLinea(int linea) {
 
 }  // namespace
 
+std::string EntreComillas(std::string_view texto) {
+    const std::string_view cabe = PrimerosCaracteres(texto, kMuestra);
+    return '"' + ControlesALaVista(cabe) + (cabe.size() < texto.size() ? "…\"" : "\"");
+}
+
 DesbordeNumerico::DesbordeNumerico(double numero)
     : Fallo{nombraNumero(numero) + " está fuera de los límites admitidos"}, valor{numero} {}
 
 DivisionPorCero::DivisionPorCero() : Fallo{"se ha dividido por cero"} {}
 
 TextoIlegible::TextoIlegible(std::string leido, const std::string& clase)
-    : Fallo{"el texto " + entreComillas(leido) + " no se puede leer como " + clase},
+    : Fallo{"el texto " + EntreComillas(leido) + " no se puede leer como " + clase},
       texto{std::move(leido)} {}
 
 FechaInexistente::FechaInexistente(int d, int m, int a)
@@ -57,11 +51,11 @@ FechaInexistente::FechaInexistente(int d, int m, int a)
       anio{a} {}
 
 FicheroInaccesible::FicheroInaccesible(std::string fichero, const std::string& motivo)
-    : Fallo{"el fichero " + entreComillas(fichero) + " no se puede usar (" + motivo + ")"},
+    : Fallo{"el fichero " + EntreComillas(fichero) + " no se puede usar (" + motivo + ")"},
       nombre{std::move(fichero)} {}
 
 FicheroMalFormado::FicheroMalFormado(std::string fichero, int numeroLinea, const std::string& motivo)
-    : Fallo{"el fichero " + entreComillas(fichero) + " no es correcto" + nombraLinea(numeroLinea) + " (" +
+    : Fallo{"el fichero " + EntreComillas(fichero) + " no es correcto" + nombraLinea(numeroLinea) + " (" +
             motivo + ")"},
       nombre{std::move(fichero)},
       linea{numeroLinea} {}

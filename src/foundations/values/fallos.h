@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace orvemo {
 
@@ -11,6 +12,9 @@ class Fallo : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
+
+/// The text between quotation marks for a message: on one line, cut where it is too long for one.
+[[nodiscard]] std::string EntreComillas(std::string_view texto);
 
 /// A number does not fit the integer that has to hold it.
 class DesbordeNumerico : public Fallo {

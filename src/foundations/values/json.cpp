@@ -13,20 +13,6 @@ namespace {
 
 constexpr std::string_view kHexadecimales = "0123456789abcdef";
 
-/// The escapes of one letter.
-struct Escape {
-    char32_t caracter;
-    std::string_view escrito;
-};
-constexpr std::array kEscapes{Escape{'"', "\\\""}, Escape{'\\', "\\\\"}, Escape{'\b', "\\b"},
-                              Escape{'\f', "\\f"}, Escape{'\n', "\\n"},  Escape{'\r', "\\r"},
-                              Escape{'\t', "\\t"}};
-
-/// The controls of the two halves of the table of characters.
-bool esControl(char32_t caracter) {
-    return caracter < 0x20 || (caracter >= 0x7F && caracter < 0xA0);
-}
-
 bool esLlano(char c) {
     return c >= ' ' && c != '"' && c != '\\' && c != 0x7F;  // a char above 0x7F is negative
 }
@@ -37,15 +23,8 @@ void agregaHexadecimal(std::string& salida, Bits bits, int cifras) {
 }
 
 void agregaCaracter(std::string& salida, char32_t caracter) {
-    const auto escape = std::ranges::find(kEscapes, caracter, &Escape::caracter);
-    if (escape != kEscapes.end()) {
-        salida += escape->escrito;
-    } else if (esControl(caracter)) {
-        salida += "\\u";
-        agregaHexadecimal(salida, static_cast<std::uint32_t>(caracter), 4);
-    } else {
-        AgregaCaracter(salida, caracter);
-    }
+    if (caracter == '"' || caracter == '\\') salida += '\\';
+    AgregaALaVista(salida, caracter);
 }
 
 template <typename T>
@@ -69,19 +48,6 @@ void agregaReal(std::string& salida, T numero) {
 }
 
 }  // namespace
-
-std::string ControlesALaVista(std::string_view texto) {
-    std::string visible;
-    for (std::size_t pos = 0; pos < texto.size();) {
-        const char32_t caracter = SiguienteCaracter(texto, pos);
-        if (esControl(caracter)) {
-            agregaCaracter(visible, caracter);
-        } else {
-            AgregaCaracter(visible, caracter);
-        }
-    }
-    return visible;
-}
 
 void AgregaJson(std::string& salida, std::string_view texto) {
     salida += '"';

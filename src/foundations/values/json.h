@@ -13,10 +13,6 @@ namespace orvemo {
 void AgregaJson(std::string& salida, std::string_view texto);
 void AgregaJson(std::string& salida, const char* texto);
 
-/// A text for people with its control characters written out in the same way: what comes from a record must
-/// neither break a line of a list nor reach a terminal.
-[[nodiscard]] std::string ControlesALaVista(std::string_view texto);
-
 /// Appends the shortest number that reads back as the same double. What JSON has no number for (an infinity,
 /// a value that is none) goes as its bits, "0x7ff0000000000000", so that nothing is lost.
 void AgregaJson(std::string& salida, double numero);

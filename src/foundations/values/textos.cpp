@@ -53,6 +53,11 @@ char byte1252(char32_t caracter) {
     return static_cast<char>(kPrimeroPropio + static_cast<unsigned>(propio - kPropios1252.begin()));
 }
 
+/// The controls of the two halves of the table of characters.
+bool esControl(char32_t caracter) {
+    return caracter < 0x20 || (caracter >= 0x7F && caracter < 0xA0);
+}
+
 /// The characters from `pos` on that are the same in both sets and in one byte: most of any text.
 std::string_view tramoLlano(std::string_view texto, std::size_t pos) {
     const auto resto = texto.substr(pos);
@@ -136,6 +141,29 @@ void AgregaCaracter(std::string& texto, char32_t caracter) {
         continuacion(6);
         continuacion(0);
     }
+}
+
+void AgregaALaVista(std::string& texto, char32_t caracter) {
+    // The controls that have a letter of their own, from 8 on.
+    constexpr std::string_view kLetras{"btn\0fr", 6};
+    if (!esControl(caracter)) return AgregaCaracter(texto, caracter);
+    texto += '\\';
+    const char32_t lugar = caracter - '\b';
+    if (lugar < kLetras.size() && kLetras[lugar] != '\0') {
+        texto += kLetras[lugar];
+        return;
+    }
+    constexpr std::string_view kCifras = "0123456789abcdef";
+    texto += "u00";
+    texto += kCifras[caracter >> 4U];
+    texto += kCifras[caracter & 0xFU];
+}
+
+std::string ControlesALaVista(std::string_view texto) {
+    std::string visible;
+    visible.reserve(texto.size());
+    for (std::size_t pos = 0; pos < texto.size();) AgregaALaVista(visible, SiguienteCaracter(texto, pos));
+    return visible;
 }
 
 std::string A1252(std::string_view utf8) {

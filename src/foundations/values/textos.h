@@ -31,6 +31,13 @@ char32_t SiguienteCaracter(std::string_view texto, std::size_t& pos);
 /// Appends a code point as UTF-8.
 void AgregaCaracter(std::string& texto, char32_t caracter);
 
+/// The same, a control character as people and JSON write it ("\\n", "\\u001b").
+void AgregaALaVista(std::string& texto, char32_t caracter);
+
+/// The text with its control characters written out: what comes from a record must neither break a line of a
+/// list nor reach a terminal.
+[[nodiscard]] std::string ControlesALaVista(std::string_view texto);
+
 /// UTF-8 to Windows-1252; what that set lacks becomes "?".
 [[nodiscard]] std::string A1252(std::string_view utf8);
 

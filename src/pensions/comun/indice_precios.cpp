@@ -57,7 +57,7 @@ double leeMes(Lineas& lineas) {
     try {
         return LeeNumeroRegional(indice);
     } catch (const TextoIlegible&) {
-        falla(lineas.numero(), "\"" + De1252(indice) + "\" no es un índice de precios");
+        falla(lineas.numero(), EntreComillas(De1252(indice)) + " no es un índice de precios");
     }
 }
 
@@ -95,7 +95,9 @@ double FactorIPCAcumulado(int anio) {
 
 TablasPensiones IniciaPensiones(const Almacen& almacen) {
     const TablaBasesMinimas basesMinimas = CargaBasesMinimas();
-    return {LeeIPC(almacen.leeTodo(kFicheroIPC)), basesMinimas};
+    const std::string ipc = almacen.leeTodo(kFicheroIPC);
+    if (ipc.empty()) falla(0, "está vacío");
+    return {LeeIPC(ipc), basesMinimas};
 }
 
 }  // namespace orvemo::pensiones

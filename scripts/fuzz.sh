@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Builds the fuzz targets and runs each from its seeds: scripts/fuzz.sh [SECONDS_EACH]. What one finds stays in
+# build/fuzz as crash-*.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+segundos=${1:-60}
+
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz
+cd build/fuzz
+for blanco in fuzz/fuzz_*; do
+    [ -x "$blanco" ] || continue
+    nombre=$(basename "$blanco")
+    printf '\n=== %s\n' "$nombre"
+    mkdir -p "semillas/$nombre" "hallazgos/$nombre"
+    "$blanco" -max_total_time="$segundos" -len_control=0 -max_len=8192 -print_final_stats=1 \
+        "hallazgos/$nombre" "semillas/$nombre" 2>&1 | tail -n 12
+done
