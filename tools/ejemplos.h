@@ -16,3 +16,6 @@ void ejemplosRiesgoEmbarazo(orvemo::Almacen& directorio);
 
 /// Writes "nominas.nom".
 void ejemplosNominas(orvemo::Almacen& directorio);
+
+/// Writes "Capit.nom".
+void ejemplosCapital(orvemo::Almacen& directorio);

@@ -75,7 +75,7 @@ constexpr std::array kEjemplos{
     Ejemplos{"jubila.nom", ejemplosJubilacion},       Ejemplos{"desemp.nom", desempleo},
     Ejemplos{"ILT.nom", ejemplosIncapacidadTemporal}, Ejemplos{"Mater.nom", ejemplosMaternidad},
     Ejemplos{"RiesgoEm.nom", ejemplosRiesgoEmbarazo}, Ejemplos{"nocont.nom", noContributiva},
-    Ejemplos{"nominas.nom", ejemplosNominas},
+    Ejemplos{"nominas.nom", ejemplosNominas},         Ejemplos{"Capit.nom", ejemplosCapital},
 };
 
 }  // namespace

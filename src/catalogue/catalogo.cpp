@@ -8,6 +8,7 @@
 #include "benefits/maternidad/mater_frm.h"
 #include "benefits/nocontributiva/nocon_frm.h"
 #include "benefits/riesgo/riesgo_embarazo_frm.h"
+#include "capital/capitalizacion/capit_frm.h"
 #include "payroll/pantallas/nomina_frm.h"
 #include "pensions/jubilacion/pension_frm.h"
 
@@ -23,6 +24,7 @@ constexpr std::array kCalculadoras{
     conSupuestos<RiesgoEmbarazo>("riesgo", "RiesgoEmbarazo", "RiesgoEm.nom", "ejemplos/RiesgoEm.nom"),
     conSupuestos<NoConFrm>("nocontributiva", "NoConFrm", "nocont.nom", "nocont.nom"),
     conSupuestos<FamiliarFrm>("familiar", "FamiliarFrm", "Familiar.nom"),
+    conSupuestos<CapitFrm>("capital", "CapitFrm", "Capit.nom", "Capit.nom"),
     conSupuestos<NominaFrm>("nomina", "NominaFrm", "nominas.nom", "ejemplos/nominas.nom"),
 };
 

@@ -75,6 +75,19 @@ class Apertura {
     std::unique_ptr<Calculadora> calculadora_;
 };
 
+/// Chooses the kind of beneficiaries. Throws ArgumentoInservible where there is none to choose.
+void eligePapel(Calculadora& calculadora, int papel) {
+    const auto lista =
+        std::ranges::find(calculadora.campos(), "Papel", [](const Campo& c) { return c.def().nombre; });
+    if (lista == calculadora.campos().end()) {
+        throw ArgumentoInservible{"La calculadora pedida no tiene papeles que elegir."};
+    }
+    const int ultimo = static_cast<int>(lista->opciones().size()) - 1;
+    if (papel > ultimo)
+        throw ArgumentoInservible{"El papel debe ser un número de 0 a " + std::to_string(ultimo) + "."};
+    lista->ponIndice(papel);
+}
+
 class Lote {
   public:
     /// Throws Fallo for a case file that can't be read, or a data file of the calculator that is amiss.
@@ -86,6 +99,7 @@ class Lote {
           registro_{registro} {
         almacen_.ponNombreDelFichero(std::string{registro.fichero});
         apertura_ = std::make_unique<Apertura>(registro_, almacen_, reloj_);
+        if (opciones_.papel) eligePapel(apertura_->calculadora(), *opciones_.papel);
     }
 
     [[nodiscard]] int cuenta() const { return archivo_.cuenta(); }
@@ -115,6 +129,7 @@ class Lote {
   private:
     void recorre(Resultado& resultado) {
         Calculadora& calculadora = apertura_->calculadora();
+        if (opciones_.papel) eligePapel(calculadora, *opciones_.papel);
         calculadora.DatosCargaRegistro(resultado.registro);
         calculadora.concluye();
         if (opciones_.pdf && apertura_->error().empty())

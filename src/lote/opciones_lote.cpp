@@ -13,6 +13,9 @@ const QCommandLineOption kRegistro{"registro", "Solo el registro N del fichero."
 const QCommandLineOption kHoy{"hoy", "Fecha de hoy, AAAA-MM-DD, en lugar de la del equipo.", "AAAA-MM-DD"};
 const QCommandLineOption kDatos{"datos", "Directorio de los ficheros de datos del programa.", "DIR"};
 const QCommandLineOption kPdf{"pdf", "Imprime cada informe en DIR/CALCULADORA-N.pdf.", "DIR"};
+const QCommandLineOption kPapel{
+    "papel", "Tipo de beneficiarios con que se capitalizan las pensiones, desde 0, en el orden de la lista.",
+    "N"};
 const QCommandLineOption kJson{"json", "Un objeto JSON por línea en lugar de texto."};
 const QCommandLineOption kLista{
     "lista", "Muestra las calculadoras, una por línea, con su fichero de supuestos y el de sus ejemplos."};
@@ -32,6 +35,13 @@ int leeRegistro(const QString& texto) {
     const int registro = texto.toInt(&legible);
     if (!legible || registro < 1) throw ArgumentoInservible{"El registro debe ser un número desde 1."};
     return registro;
+}
+
+int leePapel(const QString& texto) {
+    bool legible = false;
+    const int papel = texto.toInt(&legible);
+    if (!legible || papel < 0) throw ArgumentoInservible{"El papel debe ser un número desde 0."};
+    return papel;
 }
 
 Fecha leeHoy(const QString& texto) {
@@ -75,7 +85,7 @@ void describe(QCommandLineParser& analizador, Calculadoras catalogo) {
     analizador.addPositionalArgument("CALCULADORA",
                                      QString::fromStdString("Una de: " + nombresDisponibles(catalogo)));
     analizador.addPositionalArgument("FICHERO", "Fichero de supuestos (*.nom).");
-    analizador.addOptions({kRegistro, kHoy, kDatos, kPdf, kJson, kLista, kAyuda});
+    analizador.addOptions({kRegistro, kHoy, kDatos, kPdf, kPapel, kJson, kLista, kAyuda});
 }
 
 }  // namespace
@@ -107,6 +117,7 @@ Opciones leeOpciones(const std::vector<std::string>& argumentos, Calculadoras ca
     if (analizador.isSet(kHoy)) opciones.hoy = leeHoy(analizador.value(kHoy));
     if (analizador.isSet(kDatos)) opciones.datos = comoSeDio(analizador.value(kDatos));
     if (analizador.isSet(kPdf)) opciones.pdf = comoSeDio(analizador.value(kPdf));
+    if (analizador.isSet(kPapel)) opciones.papel = leePapel(analizador.value(kPapel));
     opciones.json = analizador.isSet(kJson);
     return opciones;
 }

@@ -23,6 +23,7 @@ struct Opciones {
     std::optional<Fecha> hoy{};                    ///< instead of the machine's date
     std::optional<std::filesystem::path> datos{};  ///< application directory with the data files
     std::optional<std::filesystem::path> pdf{};    ///< directory that takes the printed reports
+    std::optional<int> papel{};  ///< kind of beneficiaries, where the record doesn't keep it
     bool json = false;
 };
 

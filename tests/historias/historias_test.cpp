@@ -265,7 +265,7 @@ TEST_P(Historias, EachFieldIsAsItsCardTells) {
 
 INSTANTIATE_TEST_SUITE_P(Todas, Historias,
                          testing::Values("jubilacion", "desempleo", "it", "maternidad", "riesgo",
-                                         "nocontributiva", "familiar"),
+                                         "nocontributiva", "familiar", "capital"),
                          [](const auto& documento) { return documento.param; });
 
 }  // namespace
