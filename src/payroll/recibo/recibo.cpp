@@ -22,7 +22,7 @@ void repartePorGrupos(const EstadoNomina& Estado, const RegistroNomina& Registro
     const Devengos& d = Estado.devengos;
     for (std::size_t i = 0; i < static_cast<std::size_t>(d.NumLineas); ++i) {
         auto& grupo = d.LineaSalarial[i] ? recibo.salariales : recibo.noSalariales;
-        grupo.push_back({textoDeLinea(d.LineaCodigo[i], Registro), d.LineaImporte[i]});
+        grupo.push_back({textoDeLinea(d.LineaCodigo[i], Registro), d.LineaImporte[i], d.LineaCodigo[i]});
     }
 }
 
@@ -33,7 +33,7 @@ double cotizacionEmpresarial(const EstadoNomina& Estado) {
 }
 
 void agrega(std::string texto, double importe, Recibo& recibo) {
-    recibo.noSalariales.push_back({std::move(texto), importe});
+    recibo.noSalariales.push_back({.texto = std::move(texto), .importe = importe});
     recibo.TotalDevengado += importe;
 }
 

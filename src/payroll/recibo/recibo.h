@@ -10,7 +10,8 @@ namespace orvemo::nomina {
 
 struct LineaRecibo {
     std::string texto;
-    double importe = 0;  ///< euros
+    double importe = 0;    ///< euros
+    std::string codigo{};  ///< of its concept; none for what the receipt adds
 };
 
 /// The receipt as panel, paper and terminal show it: the lines in their two groups and the totals, with what
