@@ -35,16 +35,25 @@ function(orvemo_biblioteca nombre)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_library(${nombre} STATIC ${ARG_SOURCES})
     target_link_libraries(${nombre} PUBLIC orvemo_opciones ${ARG_LINK})
+    if(ORVEMO_TIDY)
+        # Each header compiles alone.
+        file(GLOB_RECURSE cabeceras CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+        target_sources(${nombre} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${cabeceras})
+        set_target_properties(${nombre} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+    endif()
 endfunction()
 
 # orvemo_prueba(NAME SOURCES ... LINK ...): one GoogleTest executable, its tests listed to CTest. The whole of it
-# runs again under the locales in which a decimal point becomes a comma or back: figures must not depend on them.
+# runs again under the locales in which a decimal point becomes a comma or back: figures must not depend on them. As
+# one process it is quick: "ctest -L rapido" runs all of them so.
 function(orvemo_prueba nombre)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${nombre} ${ARG_SOURCES})
     target_link_libraries(${nombre} PRIVATE
         orvemo_opciones pruebas_apoyo pruebas_principal ${ARG_LINK} GTest::gmock)
     gtest_discover_tests(${nombre} DISCOVERY_MODE PRE_TEST)
+    add_test(NAME ${nombre}.rapido COMMAND ${nombre} --gtest_brief=1)
+    set_tests_properties(${nombre}.rapido PROPERTIES LABELS rapido)
     foreach(locale IN ITEMS es_ES.UTF-8 en_US.UTF-8)
         add_test(NAME ${nombre}.${locale} COMMAND ${nombre})
         set_tests_properties(${nombre}.${locale} PROPERTIES

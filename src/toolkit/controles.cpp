@@ -77,7 +77,7 @@ class VeredictoCampo final : public MarcaVeredicto, public Control {
 
   protected:
     void refrescaValor() override {
-        const char* palabra = esFavorable(campo()) ? "Con derecho" : "Sin derecho";
+        const char* palabra = esFavorable(campo()) ? "Resultado favorable" : "Resultado desfavorable";
         setText(campo().rotulo().empty() ? aQt(palabra) : aQt(campo().rotulo()));
         setAccessibleName(text());
         updateGeometry();

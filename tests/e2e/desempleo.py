@@ -89,7 +89,7 @@ def concluye(programa):
     pulsa("alt+Right")
     programa.espera_que_se_lea(DICTAMEN)
     programa.espera_campo("Conclusiones", CONCLUSIONES)
-    programa.espera_que_se_lea("Con derecho")
+    programa.espera_que_se_lea("Resultado favorable")
 
 
 def vuelve_a_los_datos(programa):

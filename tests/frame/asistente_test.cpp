@@ -91,6 +91,7 @@ TEST_F(AsistenteTest, AFailureInMidCalculationKeepsTheLinesAndShowsMal) {
     frm.pulsa(frm.Siguiente);
     EXPECT_EQ(frm.textoConclusion(), "Doce entre lo dado.\r\n");
     EXPECT_TRUE(frm.Mal.visible());
+    EXPECT_EQ(frm.Mal.rotulo(), "Cálculo no terminado");
     EXPECT_FALSE(frm.Ok.visible());
     ASSERT_EQ(mundo.mensajes.dichos.size(), 1U);
     EXPECT_THAT(mundo.mensajes.dichos[0],
@@ -131,6 +132,24 @@ TEST_F(AsistenteTest, SavesUnderANameOverwritesAfterAYesAndOffersThePersonsName)
     frm.DatosCargaRegistro(1);
     EXPECT_EQ(frm.divisor.texto(), "6");
     EXPECT_EQ(frm.NombreActual(), "Ana");
+}
+
+TEST_F(AsistenteTest, DataThatWouldBeLostAreAskedAboutUnlessAButtonThrowsThemAway) {
+    const auto preguntas = [this] { return std::exchange(mundo.mensajes.dichos, {}).size(); };
+    EXPECT_TRUE(frm.pulsaPorTeclas(frm.BotonNuevo));
+    frm.escribe(frm.divisor, "4");
+    mundo.mensajes.respuestas = {false, false};
+    EXPECT_FALSE(frm.pulsaPorTeclas(frm.BotonNuevo));
+    frm.cierra();
+    EXPECT_EQ(frm.divisor.texto() + (frm.oculto() ? " gone" : " kept"), "4 kept");
+    EXPECT_EQ(preguntas(), 2U);
+    graba("Ana");
+    EXPECT_EQ(frm.Caption(), "División - Ana");
+    EXPECT_TRUE(frm.pulsaPorTeclas(frm.BotonNuevo)) << "saved: nothing to ask about";
+    EXPECT_EQ(frm.Caption(), "División");
+    frm.escribe(frm.divisor, "6");
+    EXPECT_TRUE(frm.pulsa(frm.BotonExit));
+    EXPECT_EQ(preguntas(), 0U);
 }
 
 TEST_F(AsistenteTest, ARefusedOverwriteWritesAllTheSameIfTheWindowIsClosed) {

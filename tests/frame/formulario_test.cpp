@@ -136,7 +136,7 @@ TEST_F(FormularioTest, ATypedDateIsRewrittenOrReplacedByToday) {
     EXPECT_EQ(frm.cambios, 2);
 }
 
-TEST_F(FormularioTest, APickerGoesBackToItsLastDateAndTellsOnlyOfAnother) {
+TEST_F(FormularioTest, APickerIsLeftWithADateOnlyAndTellsOfAnother) {
     frm.foco(frm.selector);
     EXPECT_TRUE(frm.foco(frm.suma));
     EXPECT_EQ(frm.cambios, 0) << "passing through changes nothing";
@@ -147,12 +147,23 @@ TEST_F(FormularioTest, APickerGoesBackToItsLastDateAndTellsOnlyOfAnother) {
     EXPECT_EQ(frm.cambios, 1);
     frm.foco(frm.selector);
     frm.escribe(frm.selector, "mañana");
-    frm.foco(frm.suma);
-    EXPECT_EQ(frm.selector.texto(), "01-01-2004");
+    EXPECT_FALSE(frm.foco(frm.suma));
+    EXPECT_THAT(mundo.mensajes.dichos,
+                ElementsAre("Error: La fecha no es correcta. El formato válido es día-mes-año"));
+    EXPECT_EQ(frm.selector.texto(), "mañana") << "to be mended where it stands";
     EXPECT_EQ(frm.cambios, 1);
     frm.eligeFecha(frm.selector, FechaDMA(3, 3, 2005));
     EXPECT_EQ(frm.selector.texto(), "03-03-2005");
     EXPECT_EQ(frm.cambios, 2);
+}
+
+TEST_F(FormularioTest, ADateMayBeTypedInOneGoOrWithPoints) {
+    for (const char* escrita : {"31121993", "311293", "31.12.1993", "31/12/93"}) {
+        frm.foco(frm.fecha);
+        frm.escribe(frm.fecha, escrita);
+        EXPECT_TRUE(frm.foco(frm.suma)) << escrita;
+        EXPECT_EQ(frm.fecha.texto(), "31-12-1993") << escrita;
+    }
 }
 
 TEST_F(FormularioTest, WhatIsPastedGoesThroughTheKeyFilter) {

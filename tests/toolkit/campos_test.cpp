@@ -164,14 +164,14 @@ TEST_F(CamposTest, EscapeClosesTheCalendarAndLeavesTheDate) {
     EXPECT_TRUE(v.vista.isVisible());
 }
 
-TEST_F(CamposTest, ATypedDateIsTidiedOnLeavingAndAPickerNeverKeepsABadOne) {
+TEST_F(CamposTest, ATypedDateIsTidiedOnLeavingAndAPickerIsNotLeftWithABadOne) {
     struct {
         const char *campo, *escrito, *queda;
         std::size_t cajas;
     } const casos[] = {
-        {"Fecha", "7/1/1999", "07-01-1999", 0}, {"Fecha", "31-02-2005", "07-01-1999", 0},
-        {"Escrita", "7-1-99", "07-01-1999", 0}, {"Escrita", "", "15-06-2005", 1},
-        {"Escrita", "mañana", "15-06-2005", 1},
+        {"Fecha", "7/1/1999", "07-01-1999", 0},   {"Escrita", "7-1-99", "07-01-1999", 0},
+        {"Escrita", "", "15-06-2005", 1},         {"Escrita", "mañana", "15-06-2005", 1},
+        {"Fecha", "31-02-2005", "31-02-2005", 1},
     };
     for (const auto& caso : casos) {
         SCOPED_TRACE(caso.escrito);

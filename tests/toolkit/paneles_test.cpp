@@ -189,11 +189,11 @@ TEST_F(PanelesTest, TheVerdictIsAWordAndNotOnlyAColour) {
     v.pantalla.Edad.ponTexto("1");
     v.clic("Siguiente");
     EXPECT_TRUE(v.widget("Ok").isVisible());
-    EXPECT_EQ(deQt(v.widget<QLabel>("Ok").text()), "Con derecho");
+    EXPECT_EQ(deQt(v.widget<QLabel>("Ok").text()), "Resultado favorable");
     v.pantalla.Ok.ponVisible(false);
     v.pantalla.Mal.ponVisible(true);
     EXPECT_FALSE(v.widget("Ok").isVisible());
-    EXPECT_EQ(deQt(v.widget("Mal").accessibleName()), "Sin derecho");
+    EXPECT_EQ(deQt(v.widget("Mal").accessibleName()), "Resultado desfavorable");
     v.pantalla.Mal.ponRotulo("Con fallos");
     EXPECT_EQ(deQt(v.widget<QLabel>("Mal").text()), "Con fallos");
 }

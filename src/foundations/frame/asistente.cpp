@@ -58,9 +58,11 @@ void Asistente::ActualizaConclusion() {
     } catch (const Fallo&) {
         // The lines written so far stay, but nothing was decided.
         dictamen.ConDerecho = false;
+        Mal.ponRotulo("Cálculo no terminado");
         ponVeredicto(dictamen);
         throw;
     }
+    Mal.ponRotulo("");
     ponVeredicto(dictamen);
 }
 

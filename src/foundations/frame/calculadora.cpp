@@ -47,6 +47,11 @@ void Calculadora::Inicia() {
         LimpiaDatos();
     }
     MuestraPantalla(0);
+    daPorGuardado();
+}
+
+bool Calculadora::puedeDescartar() {
+    return !modificado() || mensajes().Confirma("¿Desea descartar los datos del supuesto?");
 }
 
 void Calculadora::LimpiaDatos() {
@@ -59,6 +64,13 @@ void Calculadora::nuevoCaso() {
     const MientrasCarga mientras{Cargando};
     LimpiaDatos();
     MuestraPantalla(0);
+    casoEnElTitulo({});
+}
+
+/// The caption of the window tells which case stands on the screen, as it was loaded or saved.
+void Calculadora::casoEnElTitulo(const std::string& nombre) {
+    ponTitulos(def_.titulo, nombre.empty() ? def_.caption : def_.caption + " - " + nombre);
+    daPorGuardado();
 }
 
 void Calculadora::vuelveAlMenu() {
@@ -112,6 +124,7 @@ void Calculadora::DatosCargaRegistro(int r) {
     }
     NombreActual_ = NombreSupuesto();
     MuestraPantalla(0);
+    casoEnElTitulo(NombreActual_);
 }
 
 void Calculadora::CargaCaso() {
@@ -135,6 +148,7 @@ void Calculadora::GrabaCaso() {
     } else if (!DatosGrabaRegistro(dialogo.Registro())) {
         throw Fallo{motivoFallo_};
     }
+    casoEnElTitulo(NombreActual_);
 }
 
 void Calculadora::DatosAppendRegistro() {

@@ -39,6 +39,8 @@ class Calculadora : public Formulario {
     [[nodiscard]] int ultimaPantalla() const { return numPantallas() - 1; }
 
     void Inicia() override;
+    /// Asks whether the data of the case may go, when some were changed.
+    [[nodiscard]] bool puedeDescartar() override;
     /// Sets every field and the name to its default.
     virtual void LimpiaDatos();
     /// Copies the fields to the case buffer. On a failed conversion says so, stops there and gives false.
@@ -92,6 +94,7 @@ class Calculadora : public Formulario {
 
   private:
     void nuevoCaso();
+    void casoEnElTitulo(const std::string& nombre);
     void vuelveAlMenu();
     Campo& nuevoBoton(const std::string& nombre, std::string ayuda, void (Calculadora::*accion)(),
                       bool descarta = false);

@@ -14,6 +14,21 @@ namespace {
 
 constexpr std::string_view kPatronFecha = "dd-MM-yyyy";
 
+bool sonCifras(std::string_view texto) {
+    return texto.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// A date as people also type it, "31121993", "311293" or "31.12.1993", as day-month-year; any other text as
+/// it stands.
+std::string fechaTecleada(std::string_view escrito) {
+    std::string texto{Recorta(escrito)};
+    if ((texto.size() == 6 || texto.size() == 8) && sonCifras(texto)) {
+        return texto.substr(0, 2) + "-" + texto.substr(2, 2) + "-" + texto.substr(4);
+    }
+    if (std::ranges::count(texto, '.') == 2) std::ranges::replace(texto, '.', '-');
+    return texto;
+}
+
 FiltroTecla filtroDe(Contenido contenido) {
     if (contenido == Contenido::Entero) return TeclaDigito;
     if (contenido == Contenido::Decimal) return TeclaNumero;
@@ -52,10 +67,7 @@ void Campo::refresca() const {
 
 void Campo::ponTexto(std::string texto) {
     if (def_.largo > 0) texto = PrimerosCaracteres(texto, def_.largo);
-    if (esFecha()) {
-        estado_.fechaAsentada = texto;
-        if (EsFecha(texto)) estado_.fechaValida = texto;
-    }
+    if (esFecha()) estado_.fechaAsentada = texto;
     if (texto == estado_.texto) return;
     estado_.texto = std::move(texto);
     refresca();
@@ -206,11 +218,8 @@ bool Campo::esFecha() const {
 
 bool Campo::asientaFecha() {
     const std::string antes = estado_.fechaAsentada;
-    if (EsFecha(estado_.texto)) {
-        ponTexto(FormatoFecha(FechaDe(estado_.texto), kPatronFecha));
-    } else if (def_.clase == Clase::FechaSelector) {
-        ponTexto(FormatoFecha(FechaDe(estado_.fechaValida), kPatronFecha));
-    }
+    const std::string leida = fechaTecleada(estado_.texto);
+    if (EsFecha(leida)) ponTexto(FormatoFecha(FechaDe(leida), kPatronFecha));
     estado_.fechaAsentada = estado_.texto;
     return estado_.fechaAsentada != antes;
 }

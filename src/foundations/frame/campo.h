@@ -138,7 +138,6 @@ class Campo final : public ControlTexto {
     /// What a field holds and shows at one moment.
     struct Estado {
         std::string texto{};
-        std::string fechaValida{};    ///< of a picker: where it goes back to when left unreadable
         std::string fechaAsentada{};  ///< of a date: its text when last settled
         std::vector<std::string> opciones{};
         std::vector<std::int64_t> datos{};  ///< of the entries, where they have them
@@ -220,8 +219,8 @@ class Campo final : public ControlTexto {
     void refresca() const;
     /// True when it is another one than before.
     bool ponIndiceSinReaccion(int indice);
-    /// Of a date on being left: rewritten as "dd-MM-yyyy"; a picker that can't be read goes back to its last
-    /// date. True when it tells another date than when last settled or set.
+    /// Of a date on being left: rewritten as "dd-MM-yyyy" if it can be read. True when it tells another date
+    /// than when last settled or set.
     bool asientaFecha();
 
     Formulario& formulario_;

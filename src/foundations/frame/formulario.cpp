@@ -137,13 +137,22 @@ bool Formulario::dejaActual() {
 void Formulario::comprueba(Campo& campo) {
     const std::string fechaAntes = campo.estado_.fechaAsentada;
     const bool otraFecha = campo.esFecha() && campo.asientaFecha();
-    if (campo.def().alSalir) campo.def().alSalir(campo);
+    if (!esFechaLegible(campo)) {
+        rechaza(campo, "La fecha no es correcta. El formato válido es día-mes-año");
+    } else if (campo.def().alSalir) {
+        campo.def().alSalir(campo);
+    }
     if (pedido_ != nullptr) {
         campo.estado_.fechaAsentada =
             fechaAntes;  // not left yet: whatever stands there now is still to be told
     } else if (otraFecha) {
         reacciona(campo);
     }
+}
+
+/// A picker holds nothing but a date once it is left; a typed date may be blank or bad.
+bool Formulario::esFechaLegible(const Campo& campo) {
+    return campo.def().clase != Clase::FechaSelector || EsFecha(campo.texto());
 }
 
 void Formulario::pideFoco(Campo& campo) {
@@ -193,12 +202,19 @@ bool Formulario::pulsa(Campo& boton) {
     return true;
 }
 
+bool Formulario::pulsaPorTeclas(Campo& boton) {
+    if (boton.def().sinComprobacion && !puedeDescartar()) return false;
+    return pulsa(boton);
+}
+
 void Formulario::escribe(Campo& campo, std::string_view texto) {
     protegido([&] {
         const std::string antes = campo.texto();
         campo.estado_.texto = depura(campo, texto);
         if (vista_ != nullptr) vista_->refresca(campo);
-        if (campo.estado_.texto != antes && campo.def().alEscribir) campo.def().alEscribir(campo);
+        if (campo.estado_.texto == antes) return;
+        modificado_ = true;
+        if (campo.def().alEscribir) campo.def().alEscribir(campo);
     });
 }
 
@@ -214,18 +230,20 @@ std::string Formulario::depura(const Campo& campo, std::string_view texto) const
 }
 
 void Formulario::marca(Campo& campo, bool marcado) {
+    modificado_ = modificado_ || campo.marcado() != marcado;
     protegido([&] { campo.ponMarcado(marcado); });
 }
 
 void Formulario::elige(Campo& campo, int indice) {
+    modificado_ = modificado_ || campo.indice() != indice;
     protegido([&] { campo.ponIndice(indice); });
 }
 
 void Formulario::eligeFecha(Campo& campo, Fecha fecha) {
     protegido([&] {
         campo.estado_.texto = FormatoFecha(fecha, "dd-MM-yyyy");
-        campo.estado_.fechaValida = campo.estado_.texto;
         const bool otraFecha = campo.asientaFecha();
+        modificado_ = modificado_ || otraFecha;
         campo.refresca();
         if (otraFecha) reacciona(campo);
     });

@@ -27,8 +27,15 @@ class Formulario {
 
     /// Sets the screen up; called by the menu before showing it.
     virtual void Inicia() = 0;
-    /// The user closes the window: what the bar's last button does.
-    virtual void cierra() { oculta(); }
+    /// The user closes the window by its own means: it goes unless something would be lost that the user
+    /// wants to keep.
+    virtual void cierra() {
+        if (puedeDescartar()) oculta();
+    }
+    /// Whether what was typed may go; asks if need be.
+    [[nodiscard]] virtual bool puedeDescartar() { return true; }
+    /// The user changed something since the form was set up, or what it holds was loaded or saved.
+    [[nodiscard]] bool modificado() const { return modificado_; }
 
     // --- What the renderer reads
 
@@ -63,6 +70,9 @@ class Formulario {
     /// A button was pressed. The field left is checked first (save by buttons that throw its value away); if
     /// it fails the press is lost. True when the button acted.
     bool pulsa(Campo& boton);
+    /// The same by its keys, which are hit by mistake more easily: a button that throws what was typed away
+    /// asks first.
+    bool pulsaPorTeclas(Campo& boton);
     /// The text of a field is now this (typed, pasted or dictated); what the filter refuses is dropped.
     void escribe(Campo& campo, std::string_view texto);
     void marca(Campo& campo, bool marcado);
@@ -101,6 +111,8 @@ class Formulario {
     /// Moves the focus to the first field of the panel on view that can take it.
     void enfocaPrimero();
     void oculta();
+    /// What stands on the form has been set up, loaded or saved just now.
+    void daPorGuardado() { modificado_ = false; }
     /// Sets another screen up and shows it until it hides itself; without a renderer it comes back at once.
     void abreModal(Formulario& otra);
     /// Runs an operation; a failure is told in a box. False when it failed.
@@ -122,6 +134,7 @@ class Formulario {
     [[nodiscard]] bool dejaActual();
     [[nodiscard]] bool puedeTenerFoco(const Campo& campo) const;
     void comprueba(Campo& campo);
+    [[nodiscard]] static bool esFechaLegible(const Campo& campo);
     void pideFoco(Campo& campo);
     void reacciona(Campo& campo);
     [[nodiscard]] std::string depura(const Campo& campo, std::string_view texto) const;
@@ -138,6 +151,7 @@ class Formulario {
     Campo* pedido_ = nullptr;
     bool comprobando_ = false;
     bool oculto_ = false;
+    bool modificado_ = false;
 };
 
 /// What the fields and groups of a form hold and show at one moment, to go back to.

@@ -36,8 +36,8 @@ class LineasBases : public Bloque {
     /// Shows so many lines and labels them with the months before that of the date.
     void prepara(Fecha referencia, int meses, Rotulo rotulo = Rotulo::NumeroYMes);
     /// Estimates the months of 2005 and later from the present base, if it is another than the last time. A
-    /// month already filled is asked about, once; one still empty is filled at once, and the filled ones after
-    /// it are then filled too.
+    /// month already filled is asked about, once; one still empty is filled at once, and the filled ones
+    /// after it are then filled too.
     void proyecta(double baseActual);
     /// A new case, or another one: nothing was typed yet, and this base projects nothing.
     void olvida(double baseActual = 0);

@@ -83,7 +83,9 @@ void PeriodosCotizados::imprime(Informe& informe) const {
 std::vector<Campo*> PeriodosCotizados::columna(Columna columna) const {
     std::vector<Campo*> campos;
     for (const FilaPeriodo& fila : filas_) {
-        campos.push_back(columna == kDesde ? &fila.PerDesde : columna == kHasta ? &fila.PerHasta : &fila.PerEmpresa);
+        campos.push_back(columna == kDesde   ? &fila.PerDesde
+                         : columna == kHasta ? &fila.PerHasta
+                                             : &fila.PerEmpresa);
     }
     return campos;
 }
