@@ -1,5 +1,5 @@
-// Any record of any calculator of the catalogue: it is shown, concluded, printed and told by its fields, and once it
-// has been through the screen it comes back the same. The first byte chooses the calculator.
+// Any record of any calculator of the catalogue: it is shown, concluded, printed and told by its fields, and
+// once it has been through the screen it comes back the same. The first byte chooses the calculator.
 
 #include <cstddef>
 #include <cstdint>
@@ -93,7 +93,8 @@ std::vector<Abierta*> abreTodas() {
     std::vector<Abierta*> abiertas;
     for (const EntradaCatalogo& entrada : CalculadorasDelPrograma()) {
         // They live as long as the fuzzer does.
-        if (entrada.registro.abre != nullptr) abiertas.push_back(std::make_unique<Abierta>(entrada.registro).release());
+        if (entrada.registro.abre != nullptr)
+            abiertas.push_back(std::make_unique<Abierta>(entrada.registro).release());
     }
     return abiertas;
 }
