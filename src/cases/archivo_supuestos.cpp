@@ -101,8 +101,10 @@ std::optional<EntradaSupuesto> ArchivoSupuestos::entrada(int r) const {
 
 std::vector<EntradaSupuesto> ArchivoSupuestos::lista() const {
     const auto fichero = abre(Acceso::Lectura);
+    const int registros = cuenta(*fichero);
     std::vector<EntradaSupuesto> entradas;
-    buscaCabecera(*fichero, longitud_, cuenta(*fichero), [&](int r, std::string_view cabecera) {
+    entradas.reserve(static_cast<std::size_t>(registros));
+    buscaCabecera(*fichero, longitud_, registros, [&](int r, std::string_view cabecera) {
         if (!esLibre(cabecera)) entradas.push_back({r, nombreSupuesto(cabecera)});
         return false;
     });

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <compare>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -66,35 +67,58 @@ constexpr Pesos tablaDePesos() {
 }
 constexpr Pesos kPesos = tablaDePesos();
 
-std::string clave(std::string_view nombre) {
-    const std::string letras = A1252(nombre);
-    std::string alfabeto;
-    alfabeto.reserve(letras.size() + 1);
-    for (const char c : letras) {
+void agregaClave(std::string& claves, std::string_view nombre) {
+    for (const char c : A1252(nombre)) {
         const Peso peso = kPesos[lugar(c)];
-        alfabeto += peso.primero;
-        if (peso.segundo != '\0') alfabeto += peso.segundo;
+        claves += peso.primero;
+        if (peso.segundo != '\0') claves += peso.segundo;
     }
-    return alfabeto;
 }
 
-/// A name's place in the list; the key is made once and not at every comparison.
+/// The first places of a key as one number: many names already differ there.
+std::uint64_t principioDe(std::string_view clave) {
+    std::uint64_t principio = 0;
+    for (std::size_t i = 0; i < sizeof principio; ++i)
+        principio = principio << 8U | (i < clave.size() ? lugar(clave[i]) : 0U);
+    return principio;
+}
+
+/// A name's place in the list; its key is made once and not at every comparison.
 struct Ficha {
-    std::string clave;
+    std::uint64_t principio;
+    std::string_view clave;
     EntradaSupuesto* entrada;
 
     friend bool operator<(const Ficha& a, const Ficha& b) {
+        if (a.principio != b.principio) return a.principio < b.principio;
         return std::is_lt(std::tie(a.clave, a.entrada->nombre, a.entrada->registro) <=>
                           std::tie(b.clave, b.entrada->nombre, b.entrada->registro));
     }
 };
 
+/// The names with their keys, which lie one after another in `claves`.
+std::vector<Ficha> fichasDe(std::vector<EntradaSupuesto>& lista, std::string& claves) {
+    std::vector<std::size_t> finales;
+    finales.reserve(lista.size());
+    for (const EntradaSupuesto& entrada : lista) {
+        agregaClave(claves, entrada.nombre);
+        finales.push_back(claves.size());
+    }
+    std::vector<Ficha> fichas;
+    fichas.reserve(lista.size());
+    std::size_t inicio = 0;
+    for (std::size_t i = 0; i < lista.size(); inicio = finales[i++]) {
+        const auto clave = std::string_view{claves}.substr(inicio, finales[i] - inicio);
+        fichas.push_back({principioDe(clave), clave, &lista[i]});
+    }
+    return fichas;
+}
+
 }  // namespace
 
 std::vector<EntradaSupuesto> OrdenaAlfabeticamente(std::vector<EntradaSupuesto> lista) {
-    std::vector<Ficha> fichas;
-    fichas.reserve(lista.size());
-    for (EntradaSupuesto& entrada : lista) fichas.push_back({clave(entrada.nombre), &entrada});
+    std::string claves;
+    std::vector<Ficha> fichas = fichasDe(lista, claves);
     std::sort(fichas.begin(), fichas.end());
     std::vector<EntradaSupuesto> ordenada;
     ordenada.reserve(lista.size());

@@ -49,8 +49,8 @@ class Texto {
 
   private:
     [[nodiscard]] std::string_view escrito() const {
-        const auto fin = std::find(bytes_.begin(), bytes_.end(), '\0');
-        return {bytes_.data(), static_cast<std::size_t>(fin - bytes_.begin())};
+        const std::string_view todo{bytes_.data(), N};
+        return todo.substr(0, todo.find('\0'));
     }
 
     std::array<char, N> bytes_{};
