@@ -19,3 +19,9 @@ void ejemplosNominas(orvemo::Almacen& directorio);
 
 /// Writes "Capit.nom".
 void ejemplosCapital(orvemo::Almacen& directorio);
+
+/// Writes "invalid.nom".
+void ejemplosIncapacidad(orvemo::Almacen& directorio);
+
+/// Writes "muerte.nom".
+void ejemplosMuerte(orvemo::Almacen& directorio);

@@ -74,6 +74,7 @@ struct Ejemplos {
 constexpr std::array kEjemplos{
     Ejemplos{"jubila.nom", ejemplosJubilacion},       Ejemplos{"desemp.nom", desempleo},
     Ejemplos{"ILT.nom", ejemplosIncapacidadTemporal}, Ejemplos{"Mater.nom", ejemplosMaternidad},
+    Ejemplos{"invalid.nom", ejemplosIncapacidad},     Ejemplos{"muerte.nom", ejemplosMuerte},
     Ejemplos{"RiesgoEm.nom", ejemplosRiesgoEmbarazo}, Ejemplos{"nocont.nom", noContributiva},
     Ejemplos{"nominas.nom", ejemplosNominas},         Ejemplos{"Capit.nom", ejemplosCapital},
 };

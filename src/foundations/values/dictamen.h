@@ -18,6 +18,7 @@ class Dictamen {
     void vacia() {
         ConDerecho = false;
         conclusion_.clear();
+        conclusion_.reserve(kLargoHabitual);
     }
 
     /// Appends the pieces (texts and whole numbers) as they stand.
@@ -35,6 +36,8 @@ class Dictamen {
     [[nodiscard]] const std::string& Conclusion() const { return conclusion_; }
 
   private:
+    static constexpr std::size_t kLargoHabitual = 1024;  ///< bytes that most conclusions fit in
+
     void agrega(std::string_view texto) { conclusion_ += texto; }
     void agrega(std::integral auto numero) {
         char cifras[24];

@@ -56,7 +56,7 @@ std::vector<Periodo> PeriodosDe(std::span<const Texto<10>> desde, std::span<cons
     std::vector<Periodo> periodos;
     for (std::size_t i = 0; i < desde.size(); ++i) {
         const std::string primero = desde[i].utf8();
-        if (EsVacio(primero)) continue;
+        if (primero.empty()) continue;
         periodos.push_back({FechaDe(primero), FechaDe(hasta[i].utf8())});
     }
     return periodos;

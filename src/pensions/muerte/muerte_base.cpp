@@ -1,5 +1,6 @@
 #include "pensions/muerte/muerte_base.h"
 
+#include <charconv>
 #include <cmath>
 #include <vector>
 
@@ -101,7 +102,9 @@ Base concluyeBaseDeActivo(const RegistroMuerte& caso, double divisor, std::strin
 }  // namespace
 
 bool esta(int numero, Conjunto conjunto) {
-    return conjunto.find(TextoPlano(numero)) != Conjunto::npos;
+    std::array<char, 12> cifras{};
+    const auto fin = std::to_chars(cifras.begin(), cifras.end(), numero);
+    return conjunto.find({cifras.data(), fin.ptr}) != Conjunto::npos;
 }
 
 int situacionDe(const RegistroMuerte& caso) {
