@@ -10,7 +10,9 @@
 #include "benefits/riesgo/riesgo_embarazo_frm.h"
 #include "capital/capitalizacion/capit_frm.h"
 #include "payroll/pantallas/nomina_frm.h"
+#include "pensions/incapacidad/inva_frm.h"
 #include "pensions/jubilacion/pension_frm.h"
+#include "pensions/muerte/muerte_frm.h"
 
 namespace orvemo {
 
@@ -18,6 +20,8 @@ namespace {
 
 constexpr std::array kCalculadoras{
     conSupuestos<PensionFrm>("jubilacion", "PensionFrm", "jubila.nom", "ejemplos/jubila.nom"),
+    conSupuestos<InvaFrm>("incapacidad", "InvaFrm", "invalid.nom", "ejemplos/invalid.nom"),
+    conSupuestos<MuerteFrm>("muerte", "MuerteFrm", "muerte.nom", "muerte.nom"),
     conSupuestos<DesempFrm>("desempleo", "DesempFrm", "desemp.nom", "ejemplos/desemp.nom"),
     conSupuestos<ILTFrm>("it", "ILTFrm", "ILT.nom", "ejemplos/ILT.nom"),
     conSupuestos<MaterFrm>("maternidad", "MaterFrm", "Mater.nom", "ejemplos/Mater.nom"),

@@ -1,6 +1,5 @@
 #include "pensions/comun/lineas_bases.h"
 
-#include <array>
 #include <cmath>
 #include <utility>
 
@@ -14,7 +13,7 @@ namespace {
 
 constexpr int kLineasPorMarco = 48;  // four years
 constexpr int kLineasPorColumna = 12;
-constexpr std::size_t kColumnasInforme = 3;
+constexpr int kColumnasInforme = 3;
 
 constexpr const char* kFormatoBase = "###,##0.00";
 constexpr const char* kMinimaBase = "0";  // euros a month, as the message tells it
@@ -118,12 +117,11 @@ void LineasBases::olvida(double baseActual) {
 // --- Report
 
 void LineasBases::imprime(Informe& informe) const {
-    const int filas = meses_ / static_cast<int>(kColumnasInforme);
+    const int filas = (meses_ + kColumnasInforme - 1) / kColumnasInforme;
     for (int fila = 1; fila <= filas; ++fila) {
-        std::array<CeldaInforme, kColumnasInforme> celdas;
-        for (std::size_t columna = 0; columna < celdas.size(); ++columna) {
-            const Campo& linea = base(fila + static_cast<int>(columna) * filas);
-            celdas[columna] = {linea.rotulo(), FormatoNumero(DobleDe(linea.texto()), kFormatoBase)};
+        std::vector<CeldaInforme> celdas;
+        for (int i = fila; i <= meses_; i += filas) {
+            celdas.push_back({base(i).rotulo(), FormatoNumero(DobleDe(base(i).texto()), kFormatoBase)});
         }
         informe.columnas(celdas);
     }

@@ -33,9 +33,33 @@ Fecha FechaReferencia(Regimen regimen, Fecha InvaFechaInv, std::span<const std::
     return pensiones::UltimoDiaCercano(InvaPerHasta, InvaFechaInv).value_or(InvaFechaInv);
 }
 
-bool promediaBases(const Expediente& e) {
-    if (e.causa == Causa::EnfermedadComun) return true;
-    return e.causa == Causa::AccidenteNoLaboral && e.grado != Grado::Total && !e.alta;
+bool promediaBases(Grado grado, Causa causa, bool alta) {
+    if (causa == Causa::EnfermedadComun) return true;
+    return causa == Causa::AccidenteNoLaboral && grado != Grado::Total && !alta;
+}
+
+Lecturas LecturasDe(Grado grado, Causa causa, bool alta) {
+    if (grado == Grado::Parcial) {
+        return {.alta = true,
+                .conyuge = false,
+                .persona = false,
+                .ultimaBase = true,
+                .periodos = causa == Causa::EnfermedadComun,
+                .bases = false};
+    }
+    const bool promedia = promediaBases(grado, causa, alta);
+    return {.alta = grado != Grado::Total || causa != Causa::AccidenteNoLaboral,
+            .conyuge = true,
+            .persona = grado == Grado::GranInvalidez,
+            .ultimaBase = !promedia,
+            .periodos = promedia,
+            .bases = promedia};
+}
+
+std::string_view RotuloUltimaBase(Grado grado, Causa causa) {
+    if (grado == Grado::Parcial) return "Última base reguladora DIARIA para I.T.:";
+    if (causa == Causa::Profesional) return "Último Salario Anual:";
+    return "Suma de las bases de 24 meses SEGUIDOS dentro de los últimos 7 años:";
 }
 
 double InvaBaseReguladora(const Expediente& e, const TablasPensiones& tablas, int meses) {
@@ -51,7 +75,8 @@ double InvaBaseReguladora(const Expediente& e, const TablasPensiones& tablas, in
 
 double baseReguladora(const Expediente& e, const TablasPensiones& tablas, int minimo) {
     if (e.causa == Causa::Profesional) return Redondeado(e.caso.InvaUltimaBase / kMesesDelAnio, 2);
-    if (!promediaBases(e)) return Redondeado(e.caso.InvaUltimaBase / kPagasDeDosAnios, 2);
+    if (!promediaBases(e.grado, e.causa, e.alta))
+        return Redondeado(e.caso.InvaUltimaBase / kPagasDeDosAnios, 2);
     if (e.caso.InvaBasesDesglosadas == 1) {
         return InvaBaseReguladora(e, tablas, Menor(kMesesSerieCompleta, minimo));
     }

@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "pensions/comun/tablas_pensiones.h"
 #include "pensions/incapacidad/incapacidad_expediente.h"
@@ -14,7 +15,21 @@ namespace orvemo::incapacidad {
                                     std::span<const std::string> InvaPerHasta);
 
 /// Whether the pension averages a series of monthly bases, and not the last salary or base.
-[[nodiscard]] bool promediaBases(const Expediente& expediente);
+[[nodiscard]] bool promediaBases(Grado grado, Causa causa, bool alta);
+
+/// What a branch of the calculation reads, which is what a person is asked for.
+struct Lecturas {
+    bool alta;        ///< `InvaAltaSS`
+    bool conyuge;     ///< `InvaConyuge`
+    bool persona;     ///< `InvaPersona`
+    bool ultimaBase;  ///< `InvaUltimaBase`
+    bool periodos;    ///< the periods and the hours of part-time work
+    bool bases;       ///< the monthly bases or their sum
+};
+[[nodiscard]] Lecturas LecturasDe(Grado grado, Causa causa, bool alta);
+
+/// What `InvaUltimaBase` is, as its label tells it.
+[[nodiscard]] std::string_view RotuloUltimaBase(Grado grado, Causa causa);
 
 /// The regulatory base of the bases entered one by one, of so many months up to 96, euros a month. Throws
 /// DivisionPorCero for no months or a month without price index, DesbordeNumerico.
