@@ -265,7 +265,8 @@ TEST_P(Historias, EachFieldIsAsItsCardTells) {
 
 INSTANTIATE_TEST_SUITE_P(Todas, Historias,
                          testing::Values("jubilacion", "desempleo", "it", "maternidad", "riesgo",
-                                         "nocontributiva", "familiar", "capital"),
+                                         "nocontributiva", "familiar", "capital", "incapacidad",
+                                         "muerte"),
                          [](const auto& documento) { return documento.param; });
 
 }  // namespace
