@@ -49,6 +49,11 @@ std::string AlmacenLote::leeHasta(std::string_view nombre, std::size_t maximo) c
     return datos_.leeHasta(nombre, maximo);
 }
 
+std::string AlmacenLote::leeTramo(std::string_view nombre, std::uint64_t posicion,
+                                  std::size_t longitud) const {
+    return datos_.leeTramo(nombre, posicion, longitud);
+}
+
 void AlmacenLote::sustituye(std::string_view nombre, std::string_view contenido) {
     datos_.sustituye(nombre, contenido);
 }

@@ -21,6 +21,8 @@ class AlmacenLote final : public Almacen {
     [[nodiscard]] bool existe(std::string_view nombre) const override;
     [[nodiscard]] std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) override;
     [[nodiscard]] std::string leeHasta(std::string_view nombre, std::size_t maximo) const override;
+    [[nodiscard]] std::string leeTramo(std::string_view nombre, std::uint64_t posicion,
+                                       std::size_t longitud) const override;
     void sustituye(std::string_view nombre, std::string_view contenido) override;
     bool elimina(std::string_view nombre) override;
     [[nodiscard]] std::filesystem::path ruta(std::string_view nombre) const override;

@@ -1,8 +1,6 @@
 #include "capital/tarifas/tarifas.h"
 
 #include <cmath>
-#include <string>
-#include <string_view>
 #include <utility>
 
 #include "foundations/values/fallos.h"
@@ -26,16 +24,12 @@ float aSimple(double valor) {
     return simple;
 }
 
-std::string_view trozo(std::string_view contenido, std::size_t posicion) {
-    return posicion < contenido.size() ? contenido.substr(posicion, kAnchoValor) : std::string_view{};
-}
-
 }  // namespace
 
 float Tarifas::lee(const FicheroTarifa& fichero, int edad, int columna) const {
     if (!fichero.contiene(edad, columna)) return 0;
-    const std::string contenido = almacen_.leeTodo(fichero.nombre);
-    return aSimple(ValComa(trozo(contenido, fichero.posicion(edad, columna))));
+    const std::size_t posicion = fichero.posicion(edad, columna);
+    return aSimple(ValComa(almacen_.leeTramo(fichero.nombre, posicion, kAnchoValor)));
 }
 
 float Tarifas::Tarifa1(int x) const {

@@ -279,6 +279,16 @@ std::unique_ptr<FicheroAleatorio> DirectorioAplicacion::abre(std::string_view no
     rechaza(fichero, nuevo.porque());
 }
 
+std::string DirectorioAplicacion::leeTramo(std::string_view nombre, std::uint64_t posicion,
+                                           std::size_t longitud) const {
+    const fs::path fichero = ruta(nombre);
+    std::string tramo(longitud, '\0');
+    const ssize_t leidos = exigeAbierto(fichero, O_RDONLY).lee(posicion, tramo);
+    if (leidos < 0) rechaza(fichero, "no se puede leer");
+    tramo.resize(static_cast<std::size_t>(leidos));
+    return tramo;
+}
+
 std::string DirectorioAplicacion::leeHasta(std::string_view nombre, std::size_t maximo) const {
     const fs::path fichero = ruta(nombre);
     const Descriptor descriptor = exigeAbierto(fichero, O_RDONLY);

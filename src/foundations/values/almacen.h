@@ -45,6 +45,13 @@ class Almacen {
     [[nodiscard]] std::string leeTodo(std::string_view nombre) const {
         return leeHasta(nombre, kMaximoFicheroTexto);
     }
+    /// So many bytes of a file that must be there, from a place on; fewer at its end. Throws
+    /// FicheroInaccesible.
+    [[nodiscard]] virtual std::string leeTramo(std::string_view nombre, std::uint64_t posicion,
+                                               std::size_t longitud) const {
+        const std::string contenido = leeTodo(nombre);
+        return posicion < contenido.size() ? contenido.substr(posicion, longitud) : std::string{};
+    }
     /// Puts a whole new file in the place of the old, which stays as it was if anything fails. Throws
     /// FicheroInaccesible.
     virtual void sustituye(std::string_view nombre, std::string_view contenido) = 0;
@@ -62,6 +69,8 @@ class DirectorioAplicacion final : public Almacen {
     [[nodiscard]] bool existe(std::string_view nombre) const override;
     [[nodiscard]] std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) override;
     [[nodiscard]] std::string leeHasta(std::string_view nombre, std::size_t maximo) const override;
+    [[nodiscard]] std::string leeTramo(std::string_view nombre, std::uint64_t posicion,
+                                       std::size_t longitud) const override;
     void sustituye(std::string_view nombre, std::string_view contenido) override;
     bool elimina(std::string_view nombre) override;
     /// The exact name first, then the smallest that matches without regard to case, else the name as given.
