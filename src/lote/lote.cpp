@@ -143,7 +143,7 @@ class Lote {
         }
         if (asistente == nullptr) {
             resultado.conDictamen = false;
-            resultado.conclusion = calculadora.textoResultados();
+            if (!opciones_.json) resultado.conclusion = calculadora.textoResultados();
         }
         if (!opciones_.json) return;
         resultado.miembros = ",\"campos\":";

@@ -14,8 +14,10 @@ using namespace nomina;
 
 namespace {
 
-constexpr int kAnchoCifra = 28;
-constexpr int kAnchoTexto = 40;
+// Characters that the fields show: the panels are dense.
+constexpr int kAnchoLista = 34;
+constexpr int kAnchoTexto = 34;
+constexpr int kAnchoNumero = 10;
 
 // Stored with the blanks that the list has had since ever.
 const std::vector<std::string> kCategorias{
@@ -71,8 +73,12 @@ Campo& NominaFrm::numero(std::string nombre, std::string rotulo, DefCampo sitio)
     sitio.nombre = std::move(nombre);
     sitio.rotulo = std::move(rotulo);
     sitio.filtro = TeclaNumero;
+    if (sitio.anchura == 0) sitio.anchura = kAnchoNumero;
     sitio.formato = rango.formato;
-    sitio.alSalir = [this, &rango](Campo& campo) { rechaza(campo, CompruebaNumero(rango, campo.texto())); };
+    sitio.alSalir = [this, &rango](Campo& campo) {
+        rechaza(campo, CompruebaNumero(rango, campo.texto()));
+        if (rango.campo == "NomiPagaExtra") avisaExtras();
+    };
     return nuevo(std::move(sitio));
 }
 
@@ -85,8 +91,8 @@ Campo& NominaFrm::fecha(std::string nombre, std::string rotulo, DefCampo sitio) 
 }
 
 /// A figure that only the program writes.
-Campo& NominaFrm::cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice) {
-    DefCampo def = resultado(std::move(nombre), std::move(rotulo), {}, kAnchoCifra, &grupo);
+Campo& NominaFrm::cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice, int anchura) {
+    DefCampo def = resultado(std::move(nombre), std::move(rotulo), {}, anchura, &grupo);
     def.indice = indice;
     def.pantalla = grupo.def().pantalla;
     return nuevo(std::move(def));
@@ -111,15 +117,16 @@ Campo& NominaFrm::boton(std::string nombre, std::string rotulo, int pantalla, vo
 }
 
 void NominaFrm::botonesDe(int pantalla, const char* anterior, const char* siguiente) {
-    const auto lleva = [this](const char* nombre, const char* rotulo, int desde, int hasta) {
+    const auto lleva = [this, pantalla](const char* nombre, const char* rotulo, int hasta) {
         nuevo({.nombre = nombre,
                .rotulo = rotulo,
                .clase = Clase::Boton,
-               .pantalla = desde,
-               .alPulsar = [this, hasta](Campo&) { MuestraPantalla(hasta); }});
+               .pantalla = pantalla,
+               .alPulsar = [this, hasta](Campo&) { MuestraPantalla(hasta); },
+               .mismaLinea = hasta > pantalla});
     };
-    lleva(anterior, "(Pantalla Anterior...)", pantalla, pantalla == kRecibo ? kContrato : pantalla - 1);
-    if (siguiente != nullptr) lleva(siguiente, "(Continuación...)", pantalla, pantalla + 1);
+    lleva(anterior, "(Pantalla Anterior...)", pantalla == kRecibo ? kContrato : pantalla - 1);
+    if (siguiente != nullptr) lleva(siguiente, "(Continuación...)", pantalla + 1);
 }
 
 // --- Panel 0
@@ -129,7 +136,7 @@ void NominaFrm::declaraContrato() {
     nuevo(texto("NomiNombre", "Nombre:", {}, &g)).ponDefecto();
     DefCampo epigrafe = lista("NomiEpigrafe", "Epígrafe para A.T. y E.P.", {});
     DefCampo categoria =
-        lista("NomiCategoria", "Grupo de Cotización:", kCategorias, [this](Campo&) { avisaExtras(); });
+        lista("NomiCategoria", "Grupo de Cotización:", kCategorias, [this](Campo&) { cambiaCategoria(); });
     DefCampo grupo =
         lista("TipoContrato", "Tipo de contrato:", {}, [this](Campo&) { cambiaGrupoContrato(); });
     DefCampo contrato = lista("NomiContrato", "Sub-Tipo:", {}, [this](Campo&) { ajustaCamposContrato(); });
@@ -137,6 +144,7 @@ void NominaFrm::declaraContrato() {
     DefCampo mes = lista("NomiMes", "Mes Nómina:", kMeses);
     for (DefCampo* def : {&epigrafe, &categoria, &grupo, &contrato, &paga}) {
         def->grupo = &g;
+        def->anchura = kAnchoLista;
         nuevo(*def);
     }
     numero("NomiDesempleo", "Coeficiente Desempleo Parcial:", {.grupo = &g, .largo = 8});
@@ -152,16 +160,20 @@ void NominaFrm::declaraContrato() {
                aplica(c, CompruebaCese(c.texto(), campo("NomiFechaAlta").texto(), this->mes()));
            }});
     numero("NomiEdad", "Edad:", {.grupo = &g, .defecto = "25"});
+    numero("NomiIRPFExtra", "% IRPF:", {.grupo = &g, .defecto = "0"});
 }
 
 void NominaFrm::declaraPagas() {
-    Grupo& g = nuevoGrupo({.nombre = "Pagas", .disposicion = Disposicion::Columnas, .columnas = 2});
+    Grupo& g = nuevoGrupo({.nombre = "Pagas",
+                           .titulo = "Pagas extra (Mensuales)",
+                           .disposicion = Disposicion::Tabla,
+                           .columnas = 2,
+                           .encabezados = {"Pagas extra:", "pagas de "}});
+    grupoPagas_ = &g;
     for (int i = 0; i < 2; ++i) {
-        numero("NomiNumPagas", "Pagas extra:", {.indice = i, .grupo = &g, .defecto = i == 0 ? "2" : "0"});
-        Campo& paga = numero("NomiPagaExtra", "pagas de ", {.indice = i, .grupo = &g, .defecto = "0"});
-        static_cast<void>(paga);
+        numero("NomiNumPagas", "", {.indice = i, .grupo = &g, .defecto = i == 0 ? "2" : "0", .anchura = 4});
+        numero("NomiPagaExtra", "", {.indice = i, .grupo = &g, .defecto = "0"});
     }
-    numero("NomiIRPFExtra", "% IRPF:", {.grupo = &g, .defecto = "0"});
 }
 
 void NominaFrm::declaraConceptos() {
@@ -169,7 +181,8 @@ void NominaFrm::declaraConceptos() {
                            .titulo = "Conceptos del recibo de salario",
                            .disposicion = Disposicion::Tabla,
                            .columnas = 5,
-                           .encabezados = {"Código", "", "Concepto", "Importe", "Período"}});
+                           .encabezados = {"Código", "", "Concepto", "Importe", "Período"},
+                           .alLado = true});
     for (int i = 0; i < kConceptos; ++i) {
         nuevo({.nombre = "NomiConcepto",
                .indice = i,

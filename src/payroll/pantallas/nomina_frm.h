@@ -58,6 +58,7 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void declaraExtrasFin();
     void declaraPeriodo(std::pair<const char*, const char*> nombres, Grupo& grupo, int indice);
     void declaraRecibo();
+    void declaraLineas(DefGrupo def, const char* texto, const char* euros, int sitio);
     void declaraFormularios();
     void declaraSalida();
     void enlazaContrato();
@@ -66,7 +67,7 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void enlazaFiniquito();
     Campo& numero(std::string nombre, std::string rotulo, DefCampo sitio);
     Campo& fecha(std::string nombre, std::string rotulo, DefCampo sitio);
-    Campo& cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice = 0);
+    Campo& cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice = 0, int anchura = 14);
     void leyenda(std::string nombre, Grupo& grupo, int indice);
     Campo& boton(std::string nombre, std::string rotulo, int pantalla, void (NominaFrm::*accion)());
     /// The pair that leaves a panel of results.
@@ -85,6 +86,7 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void cambiaGrupoContrato();
     void ajustaCamposContrato();
     void avisaExtras();
+    void cambiaCategoria();
     void proponeCese();
 
     void cargaContrato(const std::string& Codigo);
@@ -128,7 +130,6 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void pon(std::string_view nombre, double euros, int indice = 0);
     void ponLineas(const std::vector<nomina::LineaRecibo>& lineas, const char* texto, const char* euros,
                    int sitio);
-    void explicaExtras();
 
     // --- Printing
     void cargaOpciones();
@@ -138,9 +139,10 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     nomina::EstadoNomina estado_;
     std::vector<nomina::Enlace> enlaces_;
     std::vector<std::string> listaConceptos_, listaIncidencias_;
-    Grupo* grupoExtra_ = nullptr;              ///< period of the extra pay
-    Grupo* grupoBaja_ = nullptr;               ///< what a leave needs
-    Campo* destinoAyuda_ = nullptr;            ///< field that an open help list fills
+    Grupo* grupoPagas_ = nullptr;
+    Grupo* grupoExtra_ = nullptr;    ///< period of the extra pay
+    Grupo* grupoBaja_ = nullptr;     ///< what a leave needs
+    Campo* destinoAyuda_ = nullptr;  ///< field that an open help list fills
 };
 
 }  // namespace orvemo

@@ -169,6 +169,11 @@ void NominaFrm::avisaExtras() {
     if (!aviso.empty()) mensajes().Informa(aviso);
 }
 
+void NominaFrm::cambiaCategoria() {
+    grupoPagas_->ponTitulo(cobraPorDias() ? "Pagas extra (Diarias)" : "Pagas extra (Mensuales)");
+    avisaExtras();
+}
+
 void NominaFrm::proponeCese() {
     const PropuestaCese propuesta = PropuestaDeCese(campo("NomiFTipoDes").indice());
     campo("NomiFDiasInd").ponTexto(TextoPlano(propuesta.DiasInd));

@@ -15,6 +15,8 @@ namespace {
 /// Lines that the receipt has room for.
 constexpr int kLineasSalariales = 8;
 constexpr int kLineasNoSalariales = 4;
+constexpr int kAnchoImporte = 12;
+constexpr int kAnchoDetalle = 26;
 
 constexpr std::string_view kAyudaExtras =
     "La parte proporcional de pagas extra y las vacaciones no disfrutadas entran en un recibo a parte desde "
@@ -51,54 +53,61 @@ std::string detalle(const Doble& tipos, const Doble& bases, bool parcial) {
 // --- Declaration
 
 void NominaFrm::declaraRecibo() {
-    Grupo& salariales = nuevoGrupo({.nombre = "Salariales",
-                                    .titulo = "1. Percepciones salariales",
-                                    .pantalla = kRecibo,
-                                    .disposicion = Disposicion::Tabla,
-                                    .columnas = 2});
-    for (int i = 0; i < kLineasSalariales; ++i) {
-        leyenda("PagaSal", salariales, i);
-        cifra("PagaSalarial", "", salariales, i);
-    }
-    Grupo& otras = nuevoGrupo({.nombre = "NoSalariales",
-                               .titulo = "2. Percepciones no salariales",
-                               .pantalla = kRecibo,
-                               .disposicion = Disposicion::Tabla,
-                               .columnas = 2});
-    for (int i = 0; i < kLineasNoSalariales; ++i) {
-        leyenda("PagaNoSal", otras, i);
-        cifra("PagaNoSalarial", "", otras, i);
-    }
-    Grupo& d = nuevoGrupo({.nombre = "Deducciones",
-                           .titulo = "Deducciones",
-                           .pantalla = kRecibo,
-                           .disposicion = Disposicion::Columnas,
-                           .columnas = 2});
-    const std::pair<const char*, const char*> filas[] = {
-        {"PagaTotalDevengado", "A. TOTAL DEVENGADO"},
-        {"PagaCC", "Contingencias comunes"},
-        {"PagaDetalleCC", ""},
-        {"PagaDes", "Desempleo"},
-        {"PagaDetalleDes", ""},
-        {"PagaFP", "Formación profesional"},
-        {"PagaDetalleFP", ""},
-        {"PagaHEE", "Horas extra por fuerza mayor"},
-        {"PagaHNE", "Otras horas extra"},
-        {"PagaSS", "1. Aportación del trabajador"},
-        {"PagaIRPF", "2. IRPF"},
-        {"PagaRetencionIRPF", ""},
-        {"PagaAnticipos", "3. Anticipos"},
-        {"PagaEspecie", "4. Valor de los productos en especie"},
-        {"PagaIRPFEspecie", "5. Ingreso a cuenta por pagos en especie"},
-        {"PagaTotalADeducir", "B. TOTAL A DEDUCIR"},
-        {"PagaLiquido", "LÍQUIDO TOTAL A PERCIBIR"}};
-    for (const auto& [nombre, rotulo] : filas) cifra(nombre, rotulo, d);
+    ponPanel(kRecibo, {.denso = true});
+    declaraLineas({.nombre = "Salariales", .titulo = "1. Percepciones salariales"}, "PagaSal", "PagaSalarial",
+                  kLineasSalariales);
+    declaraLineas({.nombre = "NoSalariales", .titulo = "2. Percepciones no salariales", .alLado = true},
+                  "PagaNoSal", "PagaNoSalarial", kLineasNoSalariales);
+    const auto panel = [this](DefGrupo def, std::initializer_list<std::pair<const char*, const char*>> filas,
+                              int anchura) {
+        def.pantalla = kRecibo;
+        Grupo& g = nuevoGrupo(std::move(def));
+        for (const auto& [nombre, rotulo] : filas) cifra(nombre, rotulo, g, 0, anchura);
+    };
+    panel({.nombre = "Cotizacion", .titulo = "Cotización"},
+          {{"PagaCC", "Contingencias comunes"},
+           {"PagaDetalleCC", ""},
+           {"PagaDes", "Desempleo"},
+           {"PagaDetalleDes", ""},
+           {"PagaFP", "Formación profesional"},
+           {"PagaDetalleFP", ""},
+           {"PagaHEE", "H. extra fuerza mayor"},
+           {"PagaHNE", "Otras horas extra"}},
+          kAnchoDetalle);
+    panel({.nombre = "Totales", .titulo = "Totales", .alLado = true},
+          {{"PagaTotalDevengado", "A. TOTAL DEVENGADO"},
+           {"PagaSS", "1. Seguridad Social"},
+           {"PagaIRPF", "2. IRPF"},
+           {"PagaRetencionIRPF", ""},
+           {"PagaAnticipos", "3. Anticipos"},
+           {"PagaEspecie", "4. Productos en especie"},
+           {"PagaIRPFEspecie", "5. Retención en especie"},
+           {"PagaTotalADeducir", "B. TOTAL A DEDUCIR"},
+           {"PagaLiquido", "LÍQUIDO (A-B)"}},
+          kAnchoImporte);
     Grupo& extras = nuevoGrupo(
         {.nombre = "ReciboAparte", .pantalla = kRecibo, .disposicion = Disposicion::Columnas, .columnas = 2});
     cifra("Extras", "P.P.Vacaciones  (*)", extras, 0);
     cifra("Extras", "P.P.Extras  (*)", extras, 1);
-    boton("AyudaExtras", "(*)", kRecibo, &NominaFrm::explicaExtras);
     botonesDe(kRecibo, "NomiAnt3", "NomiSig3");
+    nuevo({.nombre = "AyudaExtras",
+           .rotulo = "(*)",
+           .clase = Clase::Boton,
+           .pantalla = kRecibo,
+           .alPulsar = [this](Campo&) { mensajes().Informa(kAyudaExtras); },
+           .ayuda = "Qué va en un recibo aparte",
+           .mismaLinea = true});
+}
+
+void NominaFrm::declaraLineas(DefGrupo def, const char* texto, const char* euros, int sitio) {
+    def.pantalla = kRecibo;
+    def.disposicion = Disposicion::Tabla;
+    def.columnas = 2;
+    Grupo& g = nuevoGrupo(std::move(def));
+    for (int i = 0; i < sitio; ++i) {
+        leyenda(texto, g, i);
+        cifra(euros, "", g, i, kAnchoImporte);
+    }
 }
 
 void NominaFrm::declaraFormularios() {
@@ -163,10 +172,6 @@ void NominaFrm::calculaYMuestra() {
 
 void NominaFrm::concluye() {
     calculaYMuestra();
-}
-
-void NominaFrm::explicaExtras() {
-    mensajes().Informa(kAyudaExtras);
 }
 
 void NominaFrm::pon(std::string_view nombre, double euros, int indice) {

@@ -76,7 +76,8 @@ TEST(Payslip, ATerminalShowsTheWholeReceipt) {
     ASSERT_EQ(CalculaSupuesto(juniode2005(), kTablas, estado), "");
     const std::string texto = TextoRecibo(estado, juniode2005());
     for (const char* linea : {
-             "Recibo de salarios de junio de 2005. Elena Ríos\nDías cotizados: 30, trabajados: 20\nI. DEVENGOS\n",
+             "Recibo de salarios de junio de 2005. Elena Ríos\nDías cotizados: 30, trabajados: 20\nI. "
+             "DEVENGOS\n",
              "     IT enfermedad común/acc.no laboral .......................         202,99\n"
              "  A. TOTAL DEVENGADO ..........................................       1.206,32\n",
              "     Otras horas extra 4,70 % .................................           4,23\n",

@@ -21,7 +21,8 @@ class Nomina : public testing::Test {
         mundo.almacen["CONTRATO.NOM"] =
             "*#100 Indefinido#0\n100#100 Indefinido#100###NNN\n*#300 Discontinuo#0\n300#300 Por d\xED"
             "as#300#D\n"
-            "*#421 Formaci\xF3n#0\n421A#421A Aprendiz#421\n421B#421B Otro#421\n*#502 Eventual#2\n502#502 Eventual#502#H\n";
+            "*#421 Formaci\xF3n#0\n421A#421A Aprendiz#421\n421B#421B Otro#421\n*#502 Eventual#2\n502#502 "
+            "Eventual#502#H\n";
         mundo.almacen["EPIG.NOM"] = "102#1#1#Representantes\n113#0,45#0,54#Oficina\n";
         frm.Inicia();
     }
@@ -60,14 +61,28 @@ TEST_F(Nomina, WhatIsEnteredChoosesTheRoad) {
         {"a plain month", [] {}, {3}},
         {"an extra pay", [&] { elige("NomiTipoPaga", 1); }, {1, 3}},
         {"a pay among the concepts", [&] { pon("NomiConcepto", "PE"); }, {1, 3}},
-        {"sick leave", [&] { pon("NomiIncidencia", "1"); pon("NomiFechaInci1", "3"); }, {1, 3}},
-        {"unpaid leave", [&] { pon("NomiIncidencia", "4"); pon("NomiFechaInci1", "3"); }, {3}},
+        {"sick leave",
+         [&] {
+             pon("NomiIncidencia", "1");
+             pon("NomiFechaInci1", "3");
+         },
+         {1, 3}},
+        {"unpaid leave",
+         [&] {
+             pon("NomiIncidencia", "4");
+             pon("NomiFechaInci1", "3");
+         },
+         {3}},
         {"partial unemployment", [&] { pon("NomiDesempleo", "0,5"); }, {1, 3}},
         {"none, though it says 1", [&] { pon("NomiDesempleo", "1"); }, {3}},
         {"a contract by days", [&] { elige("TipoContrato", 1); }, {1, 3}},
         {"someone who leaves", [&] { pon("NomiFechaBaja", "20-01-2005"); }, {2, 3}},
         {"someone who leaves ill",
-         [&] { pon("NomiIncidencia", "1"); pon("NomiFechaInci1", "3"); pon("NomiFechaBaja", "20-01-2005"); },
+         [&] {
+             pon("NomiIncidencia", "1");
+             pon("NomiFechaInci1", "3");
+             pon("NomiFechaBaja", "20-01-2005");
+         },
          {1, 2, 3}},
     };
     for (const Camino& camino : caminos) {
@@ -89,7 +104,8 @@ TEST_F(Nomina, ARowOfConceptsFollowsItsCode) {
     pon("NomiConcepto", "ZZ", 3);
     EXPECT_FALSE(frm.foco(frm.campo("NomiEdad")));
     EXPECT_EQ(texto("NomiConcepto", 3), "");
-    EXPECT_THAT(mundo.mensajes.dichos, ElementsAre("Error: Código de concepto no válido. Pulse ? para ver lista"));
+    EXPECT_THAT(mundo.mensajes.dichos,
+                ElementsAre("Error: Código de concepto no válido. Pulse ? para ver lista"));
     pon("NomiConcepto", "");
     EXPECT_TRUE(frm.foco(frm.campo("NomiEdad")));
     EXPECT_EQ(texto("NomiTextoConcepto") + texto("NomiImporte") + texto("NomiPeriod"), "");
