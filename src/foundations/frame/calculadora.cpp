@@ -168,13 +168,17 @@ bool Calculadora::DatosGrabaRegistro(int r) {
 
 // --- Report
 
+void Calculadora::escribeDocumento(DestinoImpresion& destino) {
+    entorno().rutinas.empieza(destino);
+    ImprimeInforme(entorno().rutinas);
+    destino.EndDoc();
+}
+
 void Calculadora::imprime() {
     const auto destino = entorno().impresora.elige(Titulo());
     if (destino == nullptr) return;
     try {
-        entorno().rutinas.empieza(*destino);
-        ImprimeInforme(entorno().rutinas);
-        destino->EndDoc();
+        escribeDocumento(*destino);
     } catch (const Fallo& fallo) {
         mensajes().ComunicaError("No se ha podido imprimir: " + std::string{fallo.what()} + ".");
     }

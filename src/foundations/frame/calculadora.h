@@ -87,6 +87,8 @@ class Calculadora : public Formulario {
     [[nodiscard]] virtual std::string subtituloDe(int pantalla) const;
     /// After a load, once the fields are filled and before the panel shows.
     virtual void trasCargar() {}
+    /// The whole document, its end included: the report, unless the calculator has forms of its own.
+    virtual void escribeDocumento(DestinoImpresion& destino);
     /// What `BotonPrint` does.
     virtual void alImprimir() { imprime(); }
 

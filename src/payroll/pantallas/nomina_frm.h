@@ -38,6 +38,8 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void tomaCampos() override;
     void cargaCampos() override;
     void alImprimir() override;
+    /// Receipt and contribution form, or the one that the user asked for.
+    void escribeDocumento(DestinoImpresion& destino) override;
 
   private:
     struct FilaConcepto {
@@ -133,12 +135,15 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
 
     // --- Printing
     void cargaOpciones();
+    [[nodiscard]] nomina::OpcionesImpresion opcionesDeLaPantalla();
     void ImpresionImprime();
 
     nomina::TablasNomina tablas_;
     nomina::EstadoNomina estado_;
     std::vector<nomina::Enlace> enlaces_;
     std::vector<std::string> listaConceptos_, listaIncidencias_;
+    bool conTC2_ = true;  ///< what the next document holds
+    bool conRecibo_ = true;
     Grupo* grupoPagas_ = nullptr;
     Grupo* grupoExtra_ = nullptr;    ///< period of the extra pay
     Grupo* grupoBaja_ = nullptr;     ///< what a leave needs

@@ -1,8 +1,13 @@
+#include <utility>
+
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/textos.h"
 #include "payroll/pantallas/nomina_frm.h"
+#include "payroll/pantallas/pagina_previa.h"
 #include "payroll/pantallas/paneles.h"
 #include "payroll/recibo/recibo.h"
 #include "printing/informe.h"
+#include "printing/nominas/formularios.h"
 
 namespace orvemo {
 
@@ -24,6 +29,11 @@ void NominaFrm::declaraSalida() {
     linea(trabajador, "NomiNumMatricula", "Nº libro de matrícula:", 15);
     linea(trabajador, "NomiCuentaSS", "Nº de afiliación a la S.S.:", 14);
     linea(trabajador, "NomiGrupoProfesional", "Categoría o grupo profesional:", 30);
+    DefCampo opciones = lista("ImpresionOpciones",
+                              "Documento:", {"Imprimir TC2/TC2-1 abreviado", "Imprimir recibo de salario"});
+    opciones.pantalla = kSalida;
+    opciones.defecto = "1";
+    nuevo(std::move(opciones));
     boton("ImpresionImprime", "Imprimir", kSalida, &NominaFrm::ImpresionImprime);
     nuevo({.nombre = "ImpresionVuelve",
            .rotulo = "(Pantalla Anterior...)",
@@ -34,19 +44,45 @@ void NominaFrm::declaraSalida() {
 
 /// The forms tell the company and the worker: they are asked for first.
 void NominaFrm::alImprimir() {
+    if (PantallaActual() < kRecibo) CalculaSupuesto();
     Campo& trabajador = campo("NomiTrabajador");
     if (EsVacio(trabajador.texto())) trabajador.ponTexto(campo("NomiNombre").texto());
     MuestraPantalla(kSalida);
 }
 
-void NominaFrm::ImpresionImprime() {
+OpcionesImpresion NominaFrm::opcionesDeLaPantalla() {
     OpcionesImpresion opciones;
     opciones.DatosEmpresa.asigna(campo("DatosEmpresa").texto());
     opciones.DatosDomicilio.asigna(campo("DatosDomicilio").texto());
     opciones.DatosCif.asigna(campo("DatosCif").texto());
     opciones.DatosCuentaSS.asigna(campo("DatosCuentaSS").texto());
-    GrabaOpciones(entorno().almacen, opciones);
+    return opciones;
+}
+
+void NominaFrm::ImpresionImprime() {
+    GrabaOpciones(entorno().almacen, opcionesDeLaPantalla());
+    if (!DatosTomaPantalla()) return;
+    conTC2_ = campo("ImpresionOpciones").indice() == 0;
+    conRecibo_ = !conTC2_;
     imprime();
+    conTC2_ = conRecibo_ = true;
+}
+
+void NominaFrm::escribeDocumento(DestinoImpresion& destino) {
+    const OpcionesImpresion empresa = opcionesDeLaPantalla();
+    const std::string trabajador = campo("NomiTrabajador").texto();
+    const DatosFormularios datos{.estado = estado_,
+                                 .registro = caso_,
+                                 .empresa = empresa,
+                                 .Trabajador = trabajador.empty() ? caso_.Nombre.utf8() : trabajador,
+                                 .hoy = hoy()};
+    if (conRecibo_ && conTC2_) {
+        PaginaPrevia primera{destino};
+        ImprimeReciboSalarios(primera, datos);
+    } else if (conRecibo_) {
+        ImprimeReciboSalarios(destino, datos);
+    }
+    if (conTC2_) ImprimeTC2(destino, datos);
 }
 
 void NominaFrm::ImprimeInforme(RutinasImpresion& rutinas) {

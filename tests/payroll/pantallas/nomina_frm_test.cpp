@@ -178,6 +178,21 @@ TEST_F(Nomina, AFailureIsToldAndTheReceiptStillShows) {
     EXPECT_THAT(mundo.mensajes.dichos, ElementsAre("Error: Algún dato no es correcto. Revise el supuesto"));
 }
 
+TEST_F(Nomina, ItPrintsTheFormAskedForAndRemembersTheCompany) {
+    pon("NomiNombre", "Elena Ríos");
+    pon("NomiConcepto", "01");
+    pon("NomiImporte", "1000");
+    frm.pulsa(frm.BotonPrint);
+    EXPECT_EQ(texto("NomiTrabajador"), "Elena Ríos");
+    pon("DatosEmpresa", "Talleres Norte, S.L.");
+    frm.pulsa(frm.campo("ImpresionImprime"));
+    EXPECT_THAT(mundo.mensajes.dichos, ElementsAre("Informa: Impresión terminada"));
+    EXPECT_TRUE(mundo.almacen["opciones.nom"].starts_with("Talleres Norte, S.L. "));
+    NominaFrm otra{mundo.entorno};
+    otra.Inicia();
+    EXPECT_EQ(otra.campo("DatosEmpresa").texto(), "Talleres Norte, S.L.");
+}
+
 TEST_F(Nomina, WithoutItsListsItDoesNotOpen) {
     mundo.almacen.ficheros.erase("epig.nom");
     NominaFrm otra{mundo.entorno};
