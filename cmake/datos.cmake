@@ -58,6 +58,39 @@ function(orvemo_datos_generados)
     endforeach()
 endfunction()
 
+# orvemo_datos_manual(FILE): a manual in Markdown as a page for the browser, with the pictures that lie beside it.
+function(orvemo_datos_manual manual)
+    find_program(CMARK_GFM cmark-gfm REQUIRED)
+    get_filename_component(carpeta ${manual} DIRECTORY)
+    file(GLOB fotos CONFIGURE_DEPENDS RELATIVE ${carpeta} ${carpeta}/imagenes/*.png)
+    list(FILTER fotos EXCLUDE REGEX "-200")  # the same for twice as fine a screen
+    foreach(foto IN LISTS fotos)
+        add_custom_command(OUTPUT ${ORVEMO_DATOS}/${foto}
+            COMMAND ${CMAKE_COMMAND} -E copy ${carpeta}/${foto} ${ORVEMO_DATOS}/${foto}
+            DEPENDS ${carpeta}/${foto} VERBATIM)
+        orvemo_instala_dato(${foto})
+    endforeach()
+    add_custom_command(OUTPUT ${ORVEMO_DATOS}/manual.html
+        COMMAND ${CMAKE_COMMAND} -D CMARK_GFM=${CMARK_GFM} -D MANUAL=${manual}
+                -D PAGINA=${ORVEMO_DATOS}/manual.html -P ${PROJECT_SOURCE_DIR}/cmake/escribe_manual.cmake
+        DEPENDS ${manual} ${PROJECT_SOURCE_DIR}/cmake/escribe_manual.cmake
+                ${PROJECT_SOURCE_DIR}/cmake/manual.css VERBATIM)
+    orvemo_instala_dato(manual.html)
+endfunction()
+
+# orvemo_supuestos_de_ejemplo(): the case files of the calculators, which begin with the examples listed before it.
+function(orvemo_supuestos_de_ejemplo)
+    get_property(ficheros GLOBAL PROPERTY ORVEMO_FICHEROS)
+    list(FILTER ficheros INCLUDE REGEX "/ejemplos/[^/]+$")
+    foreach(ejemplos IN LISTS ficheros)
+        get_filename_component(fichero ${ejemplos} NAME)
+        add_custom_command(OUTPUT ${ORVEMO_DATOS}/${fichero}
+            COMMAND ${CMAKE_COMMAND} -E copy ${ejemplos} ${ORVEMO_DATOS}/${fichero}
+            DEPENDS ${ejemplos} VERBATIM)
+        orvemo_instala_del_usuario(${fichero})
+    endforeach()
+endfunction()
+
 # orvemo_todos_los_datos(): the target "datos", which makes all that was listed before it.
 function(orvemo_todos_los_datos)
     get_property(ficheros GLOBAL PROPERTY ORVEMO_FICHEROS)

@@ -18,7 +18,6 @@ chmod 700 "$trabajo"
 for porcentaje in 100 200; do
     datos=$trabajo/$porcentaje
     cp -r build/release/data "$datos"
-    cp "$datos/ejemplos/desemp.nom" "$datos/desemp.nom"
     sufijo=
     [ "$porcentaje" = 100 ] || sufijo=-$porcentaje
     QT_SCALE_FACTOR=$((porcentaje / 100)) build/release/tools/capturas "$datos" "$trabajo" "$sufijo"

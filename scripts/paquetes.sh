@@ -2,7 +2,7 @@
 # What run.sh, test.sh and their like need from Debian. To be sourced.
 
 # Shared by everything that builds the program or runs it.
-PAQUETES_PROGRAMA=(g++ cmake ninja-build qt6-base-dev fonts-liberation qt6-translations-l10n)
+PAQUETES_PROGRAMA=(g++ cmake ninja-build qt6-base-dev cmark-gfm fonts-liberation qt6-translations-l10n)
 # For the tests besides: the test library, two more locales, a screen without a screen and its accessibility.
 PAQUETES_PRUEBAS=(libgtest-dev libgmock-dev locales poppler-utils xvfb xauth xdotool openbox
                   at-spi2-core dbus python3-gi gir1.2-atspi-2.0)

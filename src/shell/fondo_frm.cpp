@@ -61,6 +61,7 @@ void FondoFrm::muestraCapitulos() {
 
 void FondoFrm::pulsaCapitulo(int i) {
     FondoImg.ponTexto(ImagenPresente(entorno().almacen, "fondo" + std::to_string(i) + ".bmp"));
+    for (int c = 1; c <= kNumCapitulos; ++c) campo("FondoCap", c).ponMarcado(c == i);
     llenaLista(i);
     if (numeros_.empty()) {
         throw FicheroMalFormado{kFicheroBibl, catalogo_.capitulo(i).linea,

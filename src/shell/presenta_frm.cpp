@@ -26,7 +26,11 @@ PresentaFrm::PresentaFrm(Entorno& entorno)
       EstudioLblTVX{nuevo({.nombre = "EstudioLblTVX",
                            .rotulo = "Programa:  Talvix, S.L.\r\nContacto: vea \"Direcciones de interés\"",
                            .clase = Clase::Etiqueta,
-                           .pantalla = kPie})} {
+                           .pantalla = kPie})},
+      Version{nuevo({.nombre = "Version",
+                     .rotulo = "Versión " ORVEMO_VERSION,
+                     .clase = Clase::Etiqueta,
+                     .pantalla = kPie})} {
     ponTitulos("INFORMACIÓN DEL PROGRAMA", "Información del programa");
 }
 
@@ -55,6 +59,8 @@ void PresentaFrm::Inicia() {
 }
 
 void PresentaFrm::pulsaOpcion(int i) {
+    for (int r = 1; r <= static_cast<int>(kRotulos.size()); ++r)
+        campo("PresenOpciones", r).ponMarcado(r == i);
     PresenPan.ponTexto(ImagenPresente(entorno().almacen, "presen" + std::to_string(i) + ".bmp"));
 }
 

@@ -22,6 +22,7 @@ class PresentaFrm final : public Formulario {
     Grupo& PresenOpciones;
     Campo& PresenPan;
     Campo& EstudioLblTVX;
+    Campo& Version;
 };
 
 }  // namespace orvemo

@@ -1,5 +1,6 @@
 #include "toolkit/boton_campo.h"
 
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QPushButton>
 #include <QShortcut>
@@ -58,9 +59,22 @@ class BotonCampo final : public Boton, public Control {
   protected:
     void refrescaValor() override {
         this->setText(aQt(campo().rotulo().empty() ? campo().def().ayuda : campo().rotulo()));
+        marca();
+    }
+
+    void keyPressEvent(QKeyEvent* suceso) override {
+        const bool entrar = suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter;
+        if (!entrar) return Boton::keyPressEvent(suceso);
+        if (!suceso->isAutoRepeat()) this->click();
     }
 
   private:
+    /// One of several that stays pressed while what it chose is on view.
+    void marca() {
+        this->setCheckable(campo().marcado());
+        this->setChecked(campo().marcado());
+    }
+
     /// The tip tells the keys too. They act at once: a button's own shortcut would first show itself pressed
     /// for a while, in which the next keys would still fall on the field left.
     void ponAyudaYTeclas(const QKeySequence& teclas) {
@@ -71,12 +85,22 @@ class BotonCampo final : public Boton, public Control {
             this->setToolTip(QStringLiteral("%1 (%2)").arg(ayuda, teclas.toString(QKeySequence::NativeText)));
         }
         auto* atajo = new QShortcut{teclas, this};
-        QObject::connect(atajo, &QShortcut::activated, this, [this] { pulsa(); });
+        QObject::connect(atajo, &QShortcut::activated, this, [this] { pulsaPorTeclas(); });
+    }
+
+    /// By its keys the focus only passes by: unless the button took it elsewhere it returns to the field
+    /// left.
+    void pulsaPorTeclas() {
+        const Campo* antes = formulario().actual();
+        pulsa();
+        const bool quedaAqui = formulario().actual() == &campo();
+        if (antes != nullptr && quedaAqui && formulario().enPantalla(*antes)) anfitrion().enfoca(*antes);
     }
 
     void pulsa() {
         const bool libre = campo().def().sinComprobacion || anfitrion().tomaFoco(*this);
         if (libre) formulario().pulsa(campo());
+        marca();
     }
 };
 
@@ -95,6 +119,7 @@ Control* botonConRotulo(Campo& campo, Anfitrion& anfitrion, const Aspecto& aspec
     boton->setAutoDefault(false);
     boton->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     boton->setProperty(kPropiedadPrincipal, principal);
+    boton->setProperty(kPropiedadPequeno, campo.def().pequeno);
     if (principal) {
         boton->setIcon(iconoClaro(aspecto.dibujo));
         boton->setLayoutDirection(Qt::RightToLeft);  // the arrow after the caption

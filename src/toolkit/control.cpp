@@ -28,7 +28,7 @@ void Control::ponNombreAccesible(const QString& nombre) {
 void Control::refrescaNombre() {
     QString nombre = aQt(campo_.rotulo()).trimmed();
     if (campo_.def().clase == Clase::Boton) nombre.remove(QLatin1Char('&'));  // its mnemonic
-    if (nombre.isEmpty()) nombre = aQt(campo_.def().ayuda);
+    if (nombre.isEmpty() || campo_.def().pequeno) nombre = aQt(campo_.def().ayuda);
     if (nombre.isEmpty()) nombre = nombreAccesible_;
     widget().setAccessibleName(nombre);
 }

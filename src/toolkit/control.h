@@ -18,6 +18,8 @@ class Anfitrion {
     /// Brings the focus to a control that is being used without it (a mnemonic, an aid for the blind), with
     /// the check of the field left. False when the focus was refused: the use is lost.
     [[nodiscard]] virtual bool tomaFoco(Control& control) = 0;
+    /// Brings the focus to a field, whole and in view.
+    virtual void enfoca(const Campo& campo) = 0;
     /// A picture of the application directory. Throws FicheroInaccesible.
     [[nodiscard]] virtual QPixmap imagen(const std::string& nombre) const = 0;
 };
@@ -36,6 +38,7 @@ class Control {
 
     /// The label that stands beside the widget and follows its visibility.
     void ponRotulo(QLabel* rotulo) { rotulo_ = rotulo; }
+    [[nodiscard]] QLabel* rotulo() const { return rotulo_; }
     /// What an aid for the blind calls it when it has neither label nor tip.
     void ponNombreAccesible(const QString& nombre);
 

@@ -1,15 +1,17 @@
 #include "toolkit/controles.h"
 
-#include <QCheckBox>
 #include <QPlainTextEdit>
 
 #include "toolkit/boton_campo.h"
+#include "toolkit/casilla_campo.h"
 #include "toolkit/fecha_campo.h"
+#include "toolkit/grafica_campo.h"
 #include "toolkit/imagen_campo.h"
 #include "toolkit/linea_campo.h"
 #include "toolkit/listas_campo.h"
 #include "toolkit/marca_veredicto.h"
 #include "toolkit/medidas.h"
+#include "toolkit/opciones_campo.h"
 #include "toolkit/textos_qt.h"
 
 namespace orvemo {
@@ -19,23 +21,6 @@ namespace {
 // Twips, at least, of the kinds that take what room is left.
 constexpr int kAltoTexto = 1200;
 constexpr int kAnchoTexto = 2400;
-
-class CasillaCampo final : public QCheckBox, public Control {
-  public:
-    CasillaCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfitrion} {
-        connect(this, &QCheckBox::clicked, this, [this](bool marcado) {
-            if (this->anfitrion().tomaFoco(*this)) formulario().marca(this->campo(), marcado);
-            refrescaValor();
-        });
-    }
-    [[nodiscard]] QWidget& widget() override { return *this; }
-
-  protected:
-    void refrescaValor() override {
-        setText(sinMnemonico(campo().rotulo()).trimmed());
-        setChecked(campo().marcado());
-    }
-};
 
 class TextoLargoCampo final : public QPlainTextEdit, public Control {
   public:
@@ -64,7 +49,6 @@ class EtiquetaCampo final : public QLabel, public Control {
 
   protected:
     void refrescaValor() override {
-        if (campo().def().clase == Clase::Grafica) return setText(aQt(campo().grafica().descripcion));
         setText(aQt(campo().texto().empty() ? campo().rotulo() : campo().texto()));
     }
 };
@@ -103,8 +87,9 @@ Control* deSuClase(Campo& campo, Anfitrion& anfitrion) {
         case Clase::Casilla:
             return crea<CasillaCampo>(campo, anfitrion);
         case Clase::Lista:
-        case Clase::Opciones:
             return crea<ListaCampo>(campo, anfitrion);
+        case Clase::Opciones:
+            return crea<OpcionesCampo>(campo, anfitrion);
         case Clase::ListaAbierta:
             return crea<ListaAbiertaCampo>(campo, anfitrion);
         case Clase::TextoLargo:
@@ -115,7 +100,8 @@ Control* deSuClase(Campo& campo, Anfitrion& anfitrion) {
             return nuevoBoton(campo, anfitrion);
         case Clase::Veredicto:
             return crea<VeredictoCampo>(campo, anfitrion);
-        case Clase::Grafica:  // told in words
+        case Clase::Grafica:
+            return crea<GraficaCampo>(campo, anfitrion);
         case Clase::Etiqueta:
             break;
     }

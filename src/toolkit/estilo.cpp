@@ -15,18 +15,28 @@ namespace orvemo {
 namespace {
 
 // Twips.
-constexpr int kLadoCasilla = 210;
 constexpr int kLadoIcono = 210;
 constexpr int kLadoIconoMensaje = 540;
 constexpr int kSeparacionHorizontal = 120;
 constexpr int kSeparacionVertical = 90;
 constexpr int kMargen = 150;
 constexpr int kRellenoBoton = 180;
+constexpr int kRellenoPequeno = 120;
 constexpr int kBajoTitulo = 45;
+constexpr int kAnchoBarra = 180;
+constexpr int kTiradorMinimo = 360;
+constexpr int kAireTirador = 45;
 
 /// A check box or a radio button: one ring around mark and caption.
 bool esDeMarca(const QObject* objeto) {
     return objeto != nullptr && (objeto->inherits("QCheckBox") || objeto->inherits("QRadioButton"));
+}
+
+bool enPanelDenso(const QWidget* widget) {
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        if (widget->property(kPropiedadDenso).toBool()) return true;
+    }
+    return false;
 }
 
 /// The title of a group stands above its frame.
@@ -42,6 +52,42 @@ void pintaGrupo(QPainter& pincel, const QStyleOptionGroupBox& grupo) {
     pincel.setPen(kColorAcento);
     pincel.drawText(parteDeGrupo(grupo, QStyle::SC_GroupBoxLabel), Qt::AlignLeft | Qt::TextShowMnemonic,
                     grupo.text);
+}
+
+QRect parteDeBarra(const QStyleOptionSlider& barra, QStyle::SubControl parte) {
+    const bool tumbada = barra.orientation == Qt::Horizontal;
+    const int largo = tumbada ? barra.rect.width() : barra.rect.height();
+    const int recorrido = barra.maximum - barra.minimum;
+    const int proporcion =
+        static_cast<int>(qint64{largo} * barra.pageStep / qMax(1, recorrido + barra.pageStep));
+    const int tirador = qBound(qMin(largo, px(kTiradorMinimo)), proporcion, largo);
+    const int desde = QStyle::sliderPositionFromValue(barra.minimum, barra.maximum, barra.sliderPosition,
+                                                      largo - tirador, barra.upsideDown);
+    const auto tramo = [&](int a, int b) {
+        return tumbada ? QRect{a, 0, b - a, barra.rect.height()} : QRect{0, a, barra.rect.width(), b - a};
+    };
+    switch (parte) {
+        case QStyle::SC_ScrollBarSlider:
+            return tramo(desde, desde + tirador);
+        case QStyle::SC_ScrollBarGroove:
+            return tramo(0, largo);
+        case QStyle::SC_ScrollBarSubPage:
+            return tramo(0, desde);
+        case QStyle::SC_ScrollBarAddPage:
+            return tramo(desde + tirador, largo);
+        default:
+            return {};
+    }
+}
+
+/// A bar without arrows: a groove of the window's colour and a handle that stands out from it.
+void pintaBarra(QPainter& pincel, const QStyleOptionSlider& barra, const QRect& tirador) {
+    pincel.fillRect(barra.rect, kColorVentana);
+    if (!barra.state.testFlag(QStyle::State_Enabled) || barra.minimum == barra.maximum) return;
+    const bool encima = barra.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider);
+    const int aire = px(kAireTirador);
+    pintaCaja(pincel, tirador.adjusted(aire, aire, -aire, -aire),
+              {encima ? kColorAcento : kColorTextoSecundario, Qt::transparent});
 }
 
 }  // namespace
@@ -96,7 +142,10 @@ void Estilo::drawComplexControl(ComplexControl control, const QStyleOptionComple
     const auto* lista = qstyleoption_cast<const QStyleOptionComboBox*>(opcion);
     const auto* grupo = qstyleoption_cast<const QStyleOptionGroupBox*>(opcion);
     const auto* boton = qstyleoption_cast<const QStyleOptionToolButton*>(opcion);
-    if (control == CC_ComboBox && lista != nullptr && !lista->editable) {
+    const auto* barra = qstyleoption_cast<const QStyleOptionSlider*>(opcion);
+    if (control == CC_ScrollBar && barra != nullptr) {
+        pintaBarra(*pincel, *barra, subControlRect(CC_ScrollBar, opcion, SC_ScrollBarSlider, widget));
+    } else if (control == CC_ComboBox && lista != nullptr && !lista->editable) {
         pintaCaja(*pincel, opcion->rect, cajaDeCampo(*opcion));
         pintaPuntaAbajo(*pincel, subControlRect(CC_ComboBox, opcion, SC_ComboBoxArrow, widget),
                         opcion->state.testFlag(State_Enabled));
@@ -114,6 +163,8 @@ QRect Estilo::subControlRect(ComplexControl control, const QStyleOptionComplex* 
                              const QWidget* widget) const {
     const auto* grupo = qstyleoption_cast<const QStyleOptionGroupBox*>(opcion);
     if (control == CC_GroupBox && grupo != nullptr) return parteDeGrupo(*grupo, parte);
+    const auto* barra = qstyleoption_cast<const QStyleOptionSlider*>(opcion);
+    if (control == CC_ScrollBar && barra != nullptr) return parteDeBarra(*barra, parte);
     const QRect sitio = QProxyStyle::subControlRect(control, opcion, parte, widget);
     const bool textoDeLista = control == CC_ComboBox && parte == SC_ComboBoxEditField;
     return textoDeLista ? sitio.adjusted(px(kRellenoCampo), 0, 0, 0) : sitio;
@@ -140,7 +191,9 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QW
     switch (medida) {
         case PM_IndicatorWidth:
         case PM_IndicatorHeight:
-            return px(kLadoCasilla);
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+            return px(kLadoMarca);
         case PM_ButtonIconSize:
         case PM_SmallIconSize:
             return px(kLadoIcono);
@@ -148,6 +201,7 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QW
             return px(kLadoIconoMensaje);
         case PM_LayoutHorizontalSpacing:
         case PM_CheckBoxLabelSpacing:
+        case PM_RadioButtonLabelSpacing:
             return px(kSeparacionHorizontal);
         case PM_LayoutVerticalSpacing:
             return px(kSeparacionVertical);
@@ -156,6 +210,10 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QW
         case PM_LayoutRightMargin:
         case PM_LayoutBottomMargin:
             return px(kMargen);
+        case PM_ScrollBarExtent:
+            return px(kAnchoBarra);
+        case PM_ScrollBarSliderMin:
+            return px(kTiradorMinimo);
         case PM_MenuPanelWidth:
             return 1;
         case PM_DefaultFrameWidth:
@@ -169,12 +227,14 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QW
 QSize Estilo::sizeFromContents(ContentsType clase, const QStyleOption* opcion, const QSize& contenido,
                                const QWidget* widget) const {
     QSize talla = QProxyStyle::sizeFromContents(clase, opcion, contenido, widget);
-    const int alto = qRound(opcion->fontMetrics.height() * 1.55);
+    const int alto = qRound(opcion->fontMetrics.height() * (enPanelDenso(widget) ? 1.2 : 1.55));
     if (clase == CT_LineEdit || clase == CT_ComboBox) talla.setHeight(alto);
     if (clase == CT_ItemViewItem)
         talla.setHeight(qMax(talla.height(), qRound(opcion->fontMetrics.height() * 1.35)));
     if (clase == CT_CheckBox || clase == CT_RadioButton) talla += {2 * px(kAireFoco), 2 * px(kAireFoco)};
-    if (clase == CT_PushButton) {
+    if (clase == CT_PushButton && widget != nullptr && widget->property(kPropiedadPequeno).toBool()) {
+        talla = {qMax(alto, contenido.width() + px(kRellenoPequeno)), alto};
+    } else if (clase == CT_PushButton) {
         talla = {qMax(talla.width(), contenido.width() + 2 * px(kRellenoBoton)),
                  qMax(contenido.height(), alto)};
     }

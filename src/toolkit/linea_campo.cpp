@@ -2,10 +2,13 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QStyleOptionFrame>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
+#include "toolkit/importe_pegado.h"
 #include "toolkit/medidas.h"
 #include "toolkit/textos_qt.h"
 
@@ -18,11 +21,17 @@ constexpr int kAnchuraTexto = 34;
 constexpr int kAnchuraEntero = 7;
 constexpr int kAnchuraDecimal = 13;
 constexpr int kAnchuraMinima = 3;
+constexpr int kCitaMaxima = 20;  // of what could not be pasted
 
 /// A key whose text is to be inserted, no command of the line editor.
 bool escribeTexto(const QKeyEvent& tecla) {
     const auto mandos = tecla.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     return mandos == Qt::NoModifier && !tecla.text().isEmpty() && tecla.text().front().isPrint();
+}
+
+/// A result in words, which stands at the left.
+bool esLetra(const QString& texto) {
+    return std::ranges::any_of(texto, [](QChar c) { return c.isLetter(); });
 }
 
 /// The focus moves within the window and not to a menu, a box or another program.
@@ -36,7 +45,7 @@ bool cambiaDeCampo(Qt::FocusReason motivo) {
 LineaCampo::LineaCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfitrion} {
     if (campo.def().largo > 0) setMaxLength(static_cast<int>(campo.def().largo));
     const bool esResultado = campo.def().clase == Clase::Resultado;
-    if (esDecimal() || campo.def().contenido == Contenido::Entero || esResultado) {
+    if (esNumero() || esResultado) {
         setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     if (esResultado) {
@@ -46,10 +55,18 @@ LineaCampo::LineaCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfi
     setTextMargins(px(kRellenoCampo), 0, px(kRellenoCampo), 0);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QLineEdit::textChanged, this, &LineaCampo::cambia);
+    // Both come after the change that they tell: until then the place where it began is still known.
+    connect(this, &QLineEdit::selectionChanged, this, &LineaCampo::recuerdaElCursor);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &LineaCampo::recuerdaElCursor);
+}
+
+bool LineaCampo::esNumero() const {
+    return esDecimal() || campo().def().contenido == Contenido::Entero;
 }
 
 bool LineaCampo::esDecimal() const {
-    return campo().def().contenido == Contenido::Decimal || !campo().def().formato.empty();
+    const DefCampo& def = campo().def();
+    return def.contenido == Contenido::Decimal || (def.contenido == Contenido::Libre && !def.formato.empty());
 }
 
 int LineaCampo::anchura() const {
@@ -76,6 +93,7 @@ QSize LineaCampo::sizeHint() const {
 
 void LineaCampo::refrescaValor() {
     muestra(aQt(editando_ ? campo().texto() : campo().presentacion()));
+    if (isReadOnly()) setAlignment((esLetra(text()) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
 }
 
 void LineaCampo::muestra(const QString& texto) {
@@ -107,11 +125,42 @@ void LineaCampo::enfoca() {
 
 // --- User to program
 
+void LineaCampo::recuerdaElCursor() {
+    antesDelCambio_ = hasSelectedText() ? selectionStart() : cursorPosition();
+}
+
 void LineaCampo::cambia(const QString& texto) {
-    if (!mostrando_) formulario().escribe(campo(), deQt(texto));
+    if (mostrando_) return;
+    if (tecleando_ || !esNumero()) return formulario().escribe(campo(), deQt(texto));
+    cambiaDeGolpe(texto);
+}
+
+/// A number that came in all at once (pasted, dropped, dictated) is understood before it is taken; what is no
+/// number leaves the field as it was.
+void LineaCampo::cambiaDeGolpe(const QString& texto) {
+    const QString entrado = texto.mid(antesDelCambio_, qMax(0, cursorPosition() - antesDelCambio_));
+    const auto numero = importePegado(entrado);
+    if (entrado.isEmpty()) {
+        formulario().escribe(campo(), deQt(texto));
+    } else if (numero && (esDecimal() || !numero->contains(u','))) {
+        const QString antes = texto.left(antesDelCambio_);
+        const QString despues = texto.mid(cursorPosition());
+        formulario().escribe(campo(), deQt(antes + despues));  // what was selected has gone
+        formulario().escribe(campo(), deQt(antes + *numero + despues));
+    } else {
+        refrescaValor();
+        const QString queEs = esDecimal() ? QStringLiteral("un número") : QStringLiteral("un número entero");
+        QToolTip::showText(mapToGlobal(QPoint{0, height()}),
+                           QStringLiteral("«%1» no es %2").arg(entrado.left(kCitaMaxima), queEs), this);
+    }
 }
 
 void LineaCampo::keyPressEvent(QKeyEvent* suceso) {
+    const bool arriba = suceso->key() == Qt::Key_Up;
+    if ((arriba || suceso->key() == Qt::Key_Down) && suceso->modifiers() == Qt::NoModifier) {
+        if (const Campo* otro = enOtraFila(arriba ? -1 : 1)) anfitrion().enfoca(*otro);
+        return;
+    }
     if (isReadOnly() || !escribeTexto(*suceso)) {
         QLineEdit::keyPressEvent(suceso);
         return;
@@ -122,7 +171,21 @@ void LineaCampo::keyPressEvent(QKeyEvent* suceso) {
     suceso->accept();
 }
 
+/// The field of the same column in the next row of a table, or in the one before.
+const Campo* LineaCampo::enOtraFila(int paso) const {
+    const DefCampo& def = campo().def();
+    const Campo* vecino = nullptr;
+    for (const Campo& otro : formulario().campos()) {
+        const int filas = (otro.def().indice - def.indice) * paso;
+        const bool deLaColumna = otro.def().nombre == def.nombre && filas > 0;
+        if (!deLaColumna || !otro.enfocable() || !formulario().enPantalla(otro)) continue;
+        if (vecino == nullptr || filas < (vecino->def().indice - def.indice) * paso) vecino = &otro;
+    }
+    return vecino;
+}
+
 void LineaCampo::teclea(const QString& texto) {
+    const QScopedValueRollback tecleando{tecleando_, true};
     for (const char32_t tecla : texto.toStdU32String()) {
         const char32_t admitida = formulario().teclea(campo(), tecla);
         if (admitida != 0) insert(QString::fromUcs4(&admitida, 1));

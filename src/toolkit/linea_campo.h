@@ -30,11 +30,17 @@ class LineaCampo : public QLineEdit, public Control {
   private:
     void teclea(const QString& texto);
     void cambia(const QString& texto);
+    void cambiaDeGolpe(const QString& texto);
+    void recuerdaElCursor();
+    [[nodiscard]] const Campo* enOtraFila(int paso) const;
     void muestra(const QString& texto);
     void seleccionaTexto();
+    [[nodiscard]] bool esNumero() const;
     [[nodiscard]] bool esDecimal() const;
 
     bool editando_ = false;       ///< it has the focus, be it in a window that isn't active now
+    int antesDelCambio_ = 0;      ///< where the caret or the selection began
+    bool tecleando_ = false;      ///< what changes is what was typed
     bool mostrando_ = false;      ///< the program itself is setting the text
     bool recienEntrado_ = false;  ///< by a click that must not undo the selection
 };

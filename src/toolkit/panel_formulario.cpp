@@ -7,6 +7,7 @@
 #include "toolkit/controles.h"
 #include "toolkit/medidas.h"
 #include "toolkit/paleta.h"
+#include "toolkit/pinceladas.h"
 #include "toolkit/rotulo_campo.h"
 #include "toolkit/textos_qt.h"
 
@@ -25,6 +26,14 @@ constexpr int kColumnasPar = 3;
 // Twips.
 constexpr int kHuecoColumnas = 240;
 constexpr int kHuecoBloques = 150;
+constexpr int kHuecoApretado = 30;  // between the rows of a long table or of a dense panel
+constexpr int kHuecoBloquesDenso = 60;
+constexpr int kMargenDenso = 75;
+constexpr int kBajoRotulo = 45;
+constexpr int kAnchoUtil = 9120;     // of a panel
+constexpr int kAnchoRotulos = 3650;  // of a column of labels, at most: two fifths of it
+
+constexpr std::size_t kFilasHolgadas = 12;
 
 /// Kinds whose label stands beside them; the others bear their own text.
 bool llevaRotulo(Clase clase) {
@@ -51,17 +60,15 @@ bool esAncha(Clase clase) {
 
 /// Kinds that take what height is left.
 bool creceEnAlto(Clase clase) {
-    return clase == Clase::ListaAbierta || clase == Clase::TextoLargo;
+    return clase == Clase::ListaAbierta || clase == Clase::TextoLargo || clase == Clase::Grafica;
+}
+
+bool esBotonSolo(const std::vector<Campo*>& fila) {
+    return fila.size() == 1 && fila.front()->def().clase == Clase::Boton;
 }
 
 bool esVeredicto(const Campo& campo) {
     return campo.def().clase == Clase::Veredicto;
-}
-
-QGridLayout* nuevaRejilla(QWidget* marco) {
-    auto* rejilla = new QGridLayout{marco};
-    rejilla->setHorizontalSpacing(px(kHuecoColumnas / 2));
-    return rejilla;
 }
 
 QLabel* nuevoEncabezado(const std::string& texto) {
@@ -71,6 +78,23 @@ QLabel* nuevoEncabezado(const std::string& texto) {
     paleta.setColor(QPalette::WindowText, kColorTextoSecundario);
     encabezado->setPalette(paleta);
     return encabezado;
+}
+
+/// The headings of a table; one left blank lies under the one before it. False when there is none.
+bool ponEncabezados(QGridLayout& rejilla, const DefGrupo& def) {
+    const int total = static_cast<int>(def.encabezados.size());
+    const auto texto = [&](int i) -> const std::string& {
+        return def.encabezados[static_cast<std::size_t>(i)];
+    };
+    bool alguno = false;
+    for (int i = 0; i < total; ++i) {
+        if (texto(i).empty()) continue;
+        int columnas = 1;
+        while (i + columnas < total && texto(i + columnas).empty()) ++columnas;
+        rejilla.addWidget(nuevoEncabezado(texto(i)), 0, i, 1, columnas);
+        alguno = true;
+    }
+    return alguno;
 }
 
 /// In tables and beside others a field that hides leaves its place empty: the columns must not jump while the
@@ -87,24 +111,27 @@ void conservaSitio(QWidget& widget) {
     widget.setSizePolicy(politica);
 }
 
-/// The column of labels is as wide as the widest of them, seen or not.
-void fijaColumnaDeRotulos(QGridLayout& rejilla) {
+/// What the widest label of a grid asks for, seen or not.
+int anchoDeRotulos(const QGridLayout& rejilla) {
     int ancho = 0;
     for (int fila = 0; fila < rejilla.rowCount(); ++fila) {
         const QLayoutItem* lugar = rejilla.itemAtPosition(fila, kColRotulo);
         const auto* rotulo = lugar == nullptr ? nullptr : qobject_cast<QLabel*>(lugar->widget());
         if (rotulo != nullptr) ancho = std::max(ancho, rotulo->sizeHint().width());
     }
-    rejilla.setColumnMinimumWidth(kColRotulo, ancho);
+    return ancho;
 }
 
 }  // namespace
 
 PanelFormulario::PanelFormulario(int pantalla, Anfitrion& anfitrion) : anfitrion_{anfitrion} {
+    const bool denso = anfitrion.formulario().panel(pantalla).denso;
+    setProperty(kPropiedadDenso, denso);
     auto* pila = new QVBoxLayout{this};
     pila->setContentsMargins(0, 0, 0, 0);
-    pila->setSpacing(px(kHuecoBloques));
+    pila->setSpacing(px(denso ? kHuecoBloquesDenso : kHuecoBloques));
     for (const Bloque& bloque : bloques(pantalla)) {
+        anchoRotulo_ = px(bloque.enFila == 1 ? kAnchoRotulos : kAnchoUtil / 2 / bloque.enFila);
         if (bloque.grupo == nullptr) {
             agregaSueltos(bloque.filas);
         } else {
@@ -112,7 +139,7 @@ PanelFormulario::PanelFormulario(int pantalla, Anfitrion& anfitrion) : anfitrion
         }
     }
     pila->addStretch(0);
-    igualaColumnasDeRotulos();
+    mideRotulos();
 }
 
 // --- Blocks
@@ -130,14 +157,43 @@ std::vector<PanelFormulario::Bloque> PanelFormulario::bloques(int pantalla) cons
         if (!campo.def().mismaLinea || bloque->filas.empty()) bloque->filas.emplace_back();
         bloque->filas.back().push_back(&campo);
     }
+    cuentaLosDeCadaFila(todos);
     return todos;
+}
+
+void PanelFormulario::cuentaLosDeCadaFila(std::vector<Bloque>& bloques) {
+    const auto empiezaFila = [](const Bloque& b) { return b.grupo == nullptr || !b.grupo->def().alLado; };
+    for (auto primero = bloques.begin(); primero != bloques.end();) {
+        const auto fin = std::find_if(std::next(primero), bloques.end(), empiezaFila);
+        const auto enFila = static_cast<int>(fin - primero);
+        for (; primero != fin; ++primero) primero->enFila = enFila;
+    }
+}
+
+/// A block stands below the one before it, or at its right.
+void PanelFormulario::coloca(QWidget* marco, bool alLado) {
+    if (!alLado || fila_ == nullptr) {
+        fila_ = new QHBoxLayout;
+        fila_->setSpacing(px(kHuecoColumnas));
+        static_cast<QVBoxLayout*>(layout())->addLayout(fila_);
+    }
+    fila_->addWidget(marco, 1);
+}
+
+QGridLayout* PanelFormulario::nuevaRejilla(QWidget* marco) const {
+    auto* rejilla = new QGridLayout{marco};
+    rejilla->setHorizontalSpacing(px(kHuecoColumnas / 2));
+    if (!property(kPropiedadDenso).toBool()) return rejilla;
+    rejilla->setVerticalSpacing(px(kHuecoApretado));
+    rejilla->setContentsMargins(px(kMargenDenso), px(kMargenDenso), px(kMargenDenso), px(kMargenDenso));
+    return rejilla;
 }
 
 void PanelFormulario::agregaSueltos(const Filas& filas) {
     auto* marco = new QWidget{this};
     auto* rejilla = nuevaRejilla(marco);
     rejilla->setContentsMargins(0, 0, 0, 0);
-    layout()->addWidget(marco);
+    coloca(marco, false);
     reparteEnFilas(*rejilla, filas);
     alineadas_.push_back(rejilla);
 }
@@ -148,18 +204,19 @@ void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
     QWidget* marco = conTitulo ? new QGroupBox{this} : new QWidget{this};
     marco->setObjectName(aQt(def.nombre));
     marcos_[&grupo] = marco;
-    layout()->addWidget(marco);
+    coloca(marco, def.alLado);
     auto* rejilla = nuevaRejilla(marco);
     if (!conTitulo) rejilla->setContentsMargins(0, 0, 0, 0);
     switch (def.disposicion) {
         case Disposicion::Filas:
             reparteEnFilas(*rejilla, filas);
-            if (!conTitulo) alineadas_.push_back(rejilla);
+            (conTitulo || def.alLado ? enMarco_ : alineadas_).push_back(rejilla);
             break;
         case Disposicion::Tabla:
             reparteEnTabla(*rejilla, filas, def);
             break;
         case Disposicion::Columnas:
+            anchoRotulo_ /= def.columnas;
             reparteEnColumnas(*rejilla, filas, def.columnas);
             break;
     }
@@ -173,11 +230,13 @@ void PanelFormulario::refresca(const Grupo& grupo) {
     if (auto* caja = qobject_cast<QGroupBox*>(marco->second)) caja->setTitle(sinMnemonico(grupo.titulo()));
 }
 
-/// The fields of the blocks without a frame stand all in one column.
-void PanelFormulario::igualaColumnasDeRotulos() {
+void PanelFormulario::mideRotulos() {
+    for (QGridLayout* rejilla : enMarco_) {
+        rejilla->setColumnMinimumWidth(kColRotulo, anchoDeRotulos(*rejilla));
+    }
+    // The fields of the blocks without a frame stand all in one column.
     int ancho = 0;
-    for (const QGridLayout* rejilla : alineadas_)
-        ancho = std::max(ancho, rejilla->columnMinimumWidth(kColRotulo));
+    for (const QGridLayout* rejilla : alineadas_) ancho = std::max(ancho, anchoDeRotulos(*rejilla));
     for (QGridLayout* rejilla : alineadas_) rejilla->setColumnMinimumWidth(kColRotulo, ancho);
 }
 
@@ -194,28 +253,32 @@ void PanelFormulario::reparteEnFilas(QGridLayout& rejilla, const Filas& filas) {
             ponPar(rejilla, fila, 0, campos);
         }
     }
-    fijaColumnaDeRotulos(rejilla);
     rejilla.setColumnStretch(kColCampo, 1);
 }
 
 void PanelFormulario::reparteEnTabla(QGridLayout& rejilla, const Filas& filas, const DefGrupo& def) {
-    const bool conEncabezados =
-        std::ranges::any_of(def.encabezados, [](const std::string& texto) { return !texto.empty(); });
-    for (std::size_t i = 0; conEncabezados && i < def.encabezados.size(); ++i) {
-        rejilla.addWidget(nuevoEncabezado(def.encabezados[i]), 0, static_cast<int>(i));
-    }
+    const bool conEncabezados = ponEncabezados(rejilla, def);
     const auto rotulo = conEncabezados ? RotuloDelPrimero::Aparte : RotuloDelPrimero::EnLinea;
     for (std::size_t i = 0; i < filas.size(); ++i) {
         const std::size_t columna = i % static_cast<std::size_t>(def.columnas);
         const int fila = static_cast<int>(i) / def.columnas + 1;
         const std::size_t primero = controles_.size();
-        rejilla.addLayout(enLinea(filas[i], rotulo), fila, static_cast<int>(columna));
+        if (esBotonSolo(filas[i])) {
+            ponBotonAncho(rejilla, fila, static_cast<int>(columna), *filas[i].front());
+        } else {
+            rejilla.addLayout(enLinea(filas[i], rotulo), fila, static_cast<int>(columna));
+        }
         if (columna < def.encabezados.size()) {
             controles_[primero]->ponNombreAccesible(
                 QStringLiteral("%1 %2").arg(aQt(def.encabezados[columna])).arg(fila));
         }
     }
-    rejilla.setColumnStretch(def.columnas, 1);
+    if (filas.size() > kFilasHolgadas * static_cast<std::size_t>(def.columnas)) {
+        rejilla.parentWidget()->setProperty(kPropiedadDenso, true);
+        rejilla.setVerticalSpacing(px(kHuecoApretado));
+    }
+    const bool soloBotones = std::ranges::all_of(filas, esBotonSolo);
+    if (!soloBotones) rejilla.setColumnStretch(def.columnas, 1);
 }
 
 void PanelFormulario::reparteEnColumnas(QGridLayout& rejilla, const Filas& filas, int columnas) {
@@ -241,7 +304,22 @@ void PanelFormulario::ponPar(QGridLayout& rejilla, int fila, int columna, const 
         return;
     }
     rejilla.addLayout(linea, fila, columna + kColCampo);
-    if (llevaRotulo(clase)) rejilla.addWidget(creaRotulo(*controles_[primero]), fila, columna + kColRotulo);
+    if (!llevaRotulo(clase)) return;
+    // Beside several lines the label stands at the first.
+    QLabel* suyo = creaRotulo(*controles_[primero], anchoRotulo_);
+    const bool alPrimero = clase == Clase::Opciones;
+    if (alPrimero) suyo->setContentsMargins(0, 2 * px(kAireFoco), 0, 0);
+    rejilla.addWidget(suyo, fila, columna + kColRotulo, alPrimero ? Qt::AlignTop : Qt::Alignment{});
+}
+
+/// Buttons in a table are all of one width.
+void PanelFormulario::ponBotonAncho(QGridLayout& rejilla, int fila, int columna, Campo& campo) {
+    QWidget& boton = crea(campo).widget();
+    QSizePolicy politica = boton.sizePolicy();
+    politica.setHorizontalPolicy(QSizePolicy::Expanding);
+    boton.setSizePolicy(politica);
+    rejilla.addWidget(&boton, fila, columna);
+    rejilla.setColumnStretch(columna, 1);
 }
 
 void PanelFormulario::ponAncha(QGridLayout& rejilla, int fila, const Fila& campos) {
@@ -262,7 +340,10 @@ void PanelFormulario::ponAncha(QGridLayout& rejilla, int fila, const Fila& campo
 QLayout* PanelFormulario::bajoSuRotulo(Campo& campo) {
     Control& control = crea(campo);
     auto* columna = new QVBoxLayout;
-    if (llevaRotulo(campo.def().clase) && !campo.rotulo().empty()) columna->addWidget(creaRotulo(control));
+    columna->setSpacing(px(kBajoRotulo));
+    if (llevaRotulo(campo.def().clase) && !campo.rotulo().empty()) {
+        columna->addWidget(creaRotulo(control, px(kAnchoUtil)));
+    }
     columna->addWidget(&control.widget());
     return columna;
 }
@@ -288,7 +369,7 @@ QLayout* PanelFormulario::enLinea(const Fila& campos, RotuloDelPrimero rotulo) {
         Control& control = crea(*campo);
         const bool rotulado = campo != campos.front() || rotulo == RotuloDelPrimero::EnLinea;
         if (rotulado && llevaRotulo(campo->def().clase) && !campo->rotulo().empty()) {
-            linea->addWidget(creaRotulo(control));
+            linea->addWidget(creaRotulo(control, anchoRotulo_));
         }
         linea->addWidget(&control.widget());
     }
@@ -303,8 +384,8 @@ Control& PanelFormulario::crea(Campo& campo) {
     return control;
 }
 
-QLabel* PanelFormulario::creaRotulo(Control& control) {
-    auto* rotulo = new RotuloCampo{this};
+QLabel* PanelFormulario::creaRotulo(Control& control, int anchoMaximo) {
+    auto* rotulo = new RotuloCampo{anchoMaximo, this};
     if (conservaSuSitio(control.campo())) conservaSitio(*rotulo);
     rotulo->setBuddy(&control.widget());
     control.ponRotulo(rotulo);

@@ -1,6 +1,7 @@
 #include "toolkit/pinceladas.h"
 
 #include <QPainter>
+#include <QWidget>
 
 #include "toolkit/medidas.h"
 #include "toolkit/paleta.h"
@@ -12,6 +13,9 @@ namespace {
 // Twips.
 constexpr int kRadio = 60;
 constexpr int kHuecoIcono = 75;
+constexpr int kHuecoMarca = 120;
+
+constexpr int kTextoDeMarca = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 
 bool tiene(const QStyleOption& opcion, QStyle::StateFlag estado) {
     return opcion.state.testFlag(estado);
@@ -50,9 +54,9 @@ double grosorFoco() {
 
 Caja cajaDeCampo(const QStyleOption& opcion) {
     if (!tiene(opcion, QStyle::State_Enabled)) return {kColorVentana, kColorBorde};
-    const QColor fondo = tiene(opcion, QStyle::State_ReadOnly) ? kColorPanel : kColorBase;
-    if (conFoco(opcion)) return {fondo, kColorAcento, grosorFoco()};
-    return {fondo, tiene(opcion, QStyle::State_MouseOver) ? kColorTextoSecundario : kColorBordeControl};
+    if (conFoco(opcion)) return {kColorBase, kColorAcento, grosorFoco()};
+    if (tiene(opcion, QStyle::State_ReadOnly)) return {kColorVentana, kColorBorde};
+    return {kColorBase, tiene(opcion, QStyle::State_MouseOver) ? kColorTextoSecundario : kColorBordeControl};
 }
 
 bool esPrincipal(const QStyleOption& opcion, const QWidget* widget) {
@@ -123,6 +127,29 @@ void pintaCasilla(QPainter& pincel, const QStyleOption& opcion) {
                                   {r.x() + r.width() * 0.43, r.y() + r.height() * 0.72},
                                   {r.x() + r.width() * 0.77, r.y() + r.height() * 0.30}});
     pincel.restore();
+}
+
+QSize tallaDeMarca(const QFontMetrics& letra, const QString& texto, int anchoMaximo) {
+    const QRect hoja{0, 0, anchoMaximo, QWIDGETSIZE_MAX};
+    const QSize escrito = letra.boundingRect(hoja, kTextoDeMarca, texto).size();
+    const int aire = px(kAireFoco);
+    return {px(kLadoMarca + kHuecoMarca) + escrito.width() + 1 + 2 * aire,
+            escrito.height() + qMax(0, px(kLadoMarca) - letra.height()) + 2 * aire};
+}
+
+void pintaMarcaConTexto(QPainter& pincel, const QStyleOptionButton& opcion,
+                        void (*pintaMarca)(QPainter&, const QStyleOption&)) {
+    const int aire = px(kAireFoco);
+    const int lado = px(kLadoMarca);
+    const int renglon = opcion.fontMetrics.height();
+    QStyleOption marca = opcion;
+    marca.rect = {aire, aire + qMax(0, (renglon - lado) / 2), lado, lado};
+    pintaMarca(pincel, marca);
+    pincel.setPen(opcion.palette.color(QPalette::WindowText));
+    const int arriba = aire + qMax(0, (lado - renglon) / 2);
+    const QRect texto = opcion.rect.adjusted(aire + lado + px(kHuecoMarca), arriba, 0, 0);
+    pincel.drawText(texto, kTextoDeMarca, opcion.text);
+    if (conFoco(opcion)) pintaFoco(pincel, opcion.rect);
 }
 
 void pintaPuntaAbajo(QPainter& pincel, const QRect& sitio, bool activa) {

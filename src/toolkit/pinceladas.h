@@ -11,8 +11,16 @@ namespace orvemo {
 /// Name of the property that marks the one primary button of a screen.
 inline constexpr const char* kPropiedadPrincipal = "principal";
 
+/// Name of the property that makes the rows of a panel low.
+inline constexpr const char* kPropiedadDenso = "denso";
+
+/// Name of the property that makes a button no larger than its text.
+inline constexpr const char* kPropiedadPequeno = "pequeno";
+
 /// Twips between the ring of the focus and the check or radio button that has it.
 inline constexpr int kAireFoco = 45;
+/// Twips of a side of the square of a check box and of the ring of a radio button.
+inline constexpr int kLadoMarca = 210;
 
 /// A filled and framed shape with round corners.
 struct Caja {
@@ -42,6 +50,12 @@ void pintaRotulo(QPainter& pincel, const QStyleOptionButton& boton, bool princip
 void pintaCasilla(QPainter& pincel, const QStyleOption& opcion);
 /// The ring of a radio button and its dot.
 void pintaRedonda(QPainter& pincel, const QStyleOption& opcion);
+/// A check box or radio button whole: its mark, drawn by `pintaMarca`, beside the first line of its caption,
+/// and the ring of the focus around both.
+void pintaMarcaConTexto(QPainter& pincel, const QStyleOptionButton& opcion,
+                        void (*pintaMarca)(QPainter&, const QStyleOption&));
+/// Its size, for a caption of that width at most.
+[[nodiscard]] QSize tallaDeMarca(const QFontMetrics& letra, const QString& texto, int anchoMaximo);
 /// The point of a list that drops down.
 void pintaPuntaAbajo(QPainter& pincel, const QRect& sitio, bool activa);
 

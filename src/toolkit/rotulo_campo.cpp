@@ -2,17 +2,9 @@
 
 #include <algorithm>
 
-#include "toolkit/medidas.h"
-
 namespace orvemo {
 
-namespace {
-
-constexpr int kAnchoMaximo = 4500;  // twips of a column of labels
-
-}  // namespace
-
-RotuloCampo::RotuloCampo(QWidget* padre) : QLabel{padre} {
+RotuloCampo::RotuloCampo(int anchoMaximo, QWidget* padre) : QLabel{padre}, anchoMaximo_{anchoMaximo} {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
@@ -20,10 +12,10 @@ RotuloCampo::RotuloCampo(QWidget* padre) : QLabel{padre} {
 
 QSize RotuloCampo::sizeHint() const {
     if (text().trimmed().isEmpty()) return {0, 0};
-    const QRect hoja{0, 0, px(kAnchoMaximo), QWIDGETSIZE_MAX};
+    const QRect hoja{0, 0, anchoMaximo_, QWIDGETSIZE_MAX};
     const QRect escrito = fontMetrics().boundingRect(hoja, Qt::TextWordWrap, text());
     // One pixel more: the measure of a whole line is rounded down.
-    return {std::min(escrito.width() + 1, hoja.width()), escrito.height()};
+    return {std::min(escrito.width() + 1, hoja.width()), escrito.height() + contentsMargins().top()};
 }
 
 }  // namespace orvemo

@@ -12,6 +12,7 @@ namespace {
 // Twips.
 constexpr int kRadio = 90;
 constexpr int kMargenVentana = 150;
+constexpr int kAire = 150;  // around what was scrolled to
 
 }  // namespace
 
@@ -38,6 +39,14 @@ QScrollArea* centrado(QWidget* panel, QWidget* ventana) {
     marco->setWidget(panel);
     panel->setAutoFillBackground(false);  // its corners are round
     return marco;
+}
+
+void llevaALaVista(QWidget& widget) {
+    for (QWidget* padre = widget.parentWidget(); padre != nullptr; padre = padre->parentWidget()) {
+        if (auto* marco = qobject_cast<QScrollArea*>(padre)) {
+            marco->ensureWidgetVisible(&widget, px(kAire), px(kAire));
+        }
+    }
 }
 
 QSize tallaDeVentana() {

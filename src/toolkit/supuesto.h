@@ -17,6 +17,9 @@ class Supuesto final : public QWidget {
 /// Keeps a panel in the middle of a window, whatever the window's size, with scroll bars where it is smaller.
 [[nodiscard]] QScrollArea* centrado(QWidget* panel, QWidget* ventana);
 
+/// Scrolls whatever holds the widget until it is in view, with some air around it.
+void llevaALaVista(QWidget& widget);
+
 /// The panel and the margin that a window leaves around it.
 [[nodiscard]] QSize tallaDeVentana();
 

@@ -29,7 +29,7 @@ QPushButton* nuevoBoton(QWidget* padre, const char* nombre, const char* ayuda, D
     auto* boton = new QPushButton{icono(dibujo), aQt(ayuda).trimmed(), padre};
     boton->setObjectName(QLatin1String{nombre});
     boton->setToolTip(aQt(ayuda));
-    boton->setAutoDefault(false);
+    boton->setAutoDefault(true);  // with the focus, Enter presses it
     QObject::connect(boton, &QPushButton::clicked, padre, accion);
     return boton;
 }
@@ -68,6 +68,7 @@ VistaSupuestos::~VistaSupuestos() {
 
 void VistaSupuestos::refresca() {
     lista_->muestra(nombres(dialogo_.ListaSupuestos()), dialogo_.seleccion());
+    for (QPushButton* boton : deLoElegido_) boton->setEnabled(dialogo_.seleccion() >= 0);
     if (dialogo_.oculto()) hide();
 }
 
@@ -88,6 +89,7 @@ void VistaSupuestos::agregaLista() {
 }
 
 void VistaSupuestos::agregaBotones(QPushButton* borrar, QPushButton* cancelar, QPushButton* principal) {
+    deLoElegido_.push_back(borrar);
     auto* botones = new QHBoxLayout;
     botones->addWidget(borrar);
     botones->addStretch(1);
@@ -156,8 +158,9 @@ VistaCargaSupuesto::VistaCargaSupuesto(CargaSupuesto& dialogo, QWidget* padre)
                   nuevoBoton(this, "BotonCancelar", "Cancela lectura", Dibujo::Aspa,
                              [&dialogo] { dialogo.BotonCancelar(); }),
                   cargar);
+    deLoElegido().push_back(cargar);
     lista().alAceptar = [&dialogo] { dialogo.BotonCargar(); };
-    refresca();
+    dialogo.selecciona(0);  // that of an empty list is none
     lista().setFocus();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <vector>
 
 #include "cases/dialogos.h"
 
@@ -29,6 +30,8 @@ class VistaSupuestos : public QDialog {
 
     [[nodiscard]] ListaTextos& lista() const { return *lista_; }
     [[nodiscard]] QVBoxLayout& columna() const { return *columna_; }
+    /// The buttons that do nothing while no case is selected.
+    [[nodiscard]] std::vector<QPushButton*>& deLoElegido() { return deLoElegido_; }
     /// The list under its heading.
     void agregaLista();
     /// The row of buttons: erase at the left, cancel and the main one at the right.
@@ -38,6 +41,7 @@ class VistaSupuestos : public QDialog {
     DialogoSupuestos& dialogo_;
     QVBoxLayout* columna_;
     ListaTextos* lista_;
+    std::vector<QPushButton*> deLoElegido_;
 };
 
 /// The window of "Grabación de supuestos".

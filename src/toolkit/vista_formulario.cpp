@@ -1,5 +1,6 @@
 #include "toolkit/vista_formulario.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QScrollArea>
@@ -8,6 +9,7 @@
 
 #include "toolkit/controles.h"
 #include "toolkit/imagenes_qt.h"
+#include "toolkit/manual_qt.h"
 #include "toolkit/medidas.h"
 #include "toolkit/paleta.h"
 #include "toolkit/supuesto.h"
@@ -85,6 +87,8 @@ VistaFormulario::VistaFormulario(Formulario& formulario, const Almacen& almacen,
     ventana->addWidget(centrado(supuesto, this));
     resize(tallaDeVentana());
 
+    ponTeclaDelManual(*this, almacen);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* ahora) { acompana(ahora); });
     formulario_.ponVista(this);
     refrescaTitulos();
     muestraPantalla(formulario_.PantallaActual());
@@ -187,7 +191,11 @@ QPixmap VistaFormulario::imagen(const std::string& nombre) const {
 // --- What the form asks
 
 void VistaFormulario::refresca(const Campo& campo) {
-    if (Control* suyo = control(campo)) suyo->refresca();
+    Control* suyo = control(campo);
+    if (suyo == nullptr) return;
+    const bool otroRotulo = suyo->rotulo() != nullptr && suyo->rotulo()->text() != aQt(campo.rotulo());
+    suyo->refresca();
+    if (otroRotulo) paneles_.at(campo.pantalla())->mideRotulos();
 }
 
 void VistaFormulario::refresca(const Grupo& grupo) {
@@ -224,12 +232,15 @@ void VistaFormulario::muestraPantalla(int pantalla) {
 
 void VistaFormulario::enfoca(const Campo& campo) {
     construye(campo.pantalla());
-    Control* suyo = control(campo);
+    if (Control* suyo = control(campo)) suyo->enfoca();
+}
+
+/// Brings what got the focus into view, its label too where there is room for both.
+void VistaFormulario::acompana(QWidget* enfocado) {
+    Control* suyo = enfocado == nullptr || enfocado->window() != this ? nullptr : controlDe(enfocado);
     if (suyo == nullptr) return;
-    if (campo.pantalla() >= 0) {
-        static_cast<QScrollArea*>(pila_->widget(campo.pantalla()))->ensureWidgetVisible(&suyo->widget());
-    }
-    suyo->enfoca();
+    if (suyo->rotulo() != nullptr) llevaALaVista(*suyo->rotulo());
+    llevaALaVista(suyo->widget());
 }
 
 void VistaFormulario::oculta() {

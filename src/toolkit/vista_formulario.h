@@ -55,6 +55,7 @@ class VistaFormulario final : public QDialog, public Vista, public Anfitrion {
     [[nodiscard]] QLayout* cabecera(QWidget* logo);
     [[nodiscard]] QLayout* fila(int pantalla);
     [[nodiscard]] QWidget* nuevoLogo();
+    void acompana(QWidget* enfocado);
     void construye(int pantalla);
     void rehaz();
     void descarta(int pantalla);

@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cstdlib>
 #include <tuple>
@@ -13,6 +12,7 @@
 #include "toolkit/boton_logo.h"
 #include "toolkit/boton_opcion.h"
 #include "toolkit/imagenes_qt.h"
+#include "toolkit/manual_qt.h"
 #include "toolkit/medidas.h"
 #include "toolkit/portada.h"
 #include "toolkit/supuesto.h"
@@ -61,9 +61,8 @@ int distancia(Puesto desde, Puesto hasta, int tecla) {
 
 VistaMenu::VistaMenu(const Almacen& almacen)
     : almacen_{almacen}, menu_{new Supuesto{this}}, logo_{new BotonLogo{menu_}}, foto_{new QLabel{menu_}} {
-    auto* ventana = new QVBoxLayout{this};
-    ventana->setContentsMargins(0, 0, 0, 0);
-    ventana->addWidget(centrado(menu_, this));
+    setCentralWidget(centrado(menu_, this));
+    ponTeclaDelManual(*this, almacen);
     resize(tallaDeVentana());
     logo_->setGeometry(px((kAnchoMenu - kLadoLogoMenu) / 2), px(kMargenLogo), px(kLadoLogoMenu),
                        px(kLadoLogoMenu));
@@ -138,14 +137,13 @@ void VistaMenu::cursorEspera(bool espera) {
     }
 }
 
-void VistaMenu::muestraModal(Formulario& pantalla, bool sobreElMenu) {
+/// Those that could keep a place of their own come up over the menu too: there the user is looking.
+void VistaMenu::muestraModal(Formulario& pantalla, bool /*sobreElMenu*/) {
     VistaFormulario vista{pantalla, almacen_, this};
-    if (sobreElMenu) {
-        // The frame's corner and the inner size: the two windows fall one over the other.
-        vista.move(pos());
-        vista.resize(size());
-        vista.setWindowState(windowState() & Qt::WindowMaximized);
-    }
+    // The frame's corner and the inner size: the two windows fall one over the other.
+    vista.move(pos());
+    vista.resize(size());
+    vista.setWindowState(windowState() & Qt::WindowMaximized);
     vista.exec();
     activateWindow();
 }
@@ -163,7 +161,7 @@ void VistaMenu::closeEvent(QCloseEvent* suceso) {
 }
 
 void VistaMenu::changeEvent(QEvent* suceso) {
-    QWidget::changeEvent(suceso);
+    QMainWindow::changeEvent(suceso);
     if (suceso->type() == QEvent::ActivationChange) ponLogoAlAlcance();
 }
 
@@ -175,8 +173,10 @@ void VistaMenu::ponLogoAlAlcance() {
 // --- The keyboard
 
 bool VistaMenu::eventFilter(QObject* objeto, QEvent* suceso) {
-    const auto* boton = dynamic_cast<BotonOpcion*>(objeto);
-    if (boton == nullptr || suceso->type() != QEvent::KeyPress) return false;
+    auto* boton = dynamic_cast<BotonOpcion*>(objeto);
+    if (boton == nullptr) return false;
+    if (suceso->type() == QEvent::FocusIn) llevaALaVista(*boton);
+    if (suceso->type() != QEvent::KeyPress) return false;
     return atiendeTecla(*boton, static_cast<QKeyEvent*>(suceso)->key());
 }
 

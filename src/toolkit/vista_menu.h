@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QMainWindow>
 #include <QPixmap>
-#include <QWidget>
 #include <vector>
 
 #include "foundations/values/almacen.h"
@@ -16,7 +16,7 @@ class BotonOpcion;
 class Supuesto;
 
 /// The main window: the menu with its options, the cover's picture and the logo.
-class VistaMenu final : public QWidget, public VistaPrograma {
+class VistaMenu final : public QMainWindow, public VistaPrograma {
   public:
     explicit VistaMenu(const Almacen& almacen);
 

@@ -102,6 +102,7 @@ def borra(programa, fichero):
 
 def recorrido(escritorio):
     fichero = escritorio.aplicacion / "desemp.nom"
+    fichero.unlink()  # the examples, which are not this user's
     comienzo = time.monotonic()
     with Programa(escritorio.aplicacion) as programa:
         portada_y_menu(comienzo)
