@@ -92,14 +92,14 @@ class BotonCampo final : public Boton, public Control {
     /// left.
     void pulsaPorTeclas() {
         const Campo* antes = formulario().actual();
-        pulsa();
+        pulsa(&Formulario::pulsaPorTeclas);
         const bool quedaAqui = formulario().actual() == &campo();
         if (antes != nullptr && quedaAqui && formulario().enPantalla(*antes)) anfitrion().enfoca(*antes);
     }
 
-    void pulsa() {
+    void pulsa(bool (Formulario::*modo)(Campo&) = &Formulario::pulsa) {
         const bool libre = campo().def().sinComprobacion || anfitrion().tomaFoco(*this);
-        if (libre) formulario().pulsa(campo());
+        if (libre) (formulario().*modo)(campo());
         marca();
     }
 };

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "foundations/values/fallos.h"
+#include "foundations/values/textos.h"
 
 namespace orvemo {
 
@@ -175,7 +176,8 @@ void Calculadora::escribeDocumento(DestinoImpresion& destino) {
 }
 
 void Calculadora::imprime() {
-    const auto destino = entorno().impresora.elige(Titulo());
+    const std::string quien{Recorta(campoNombre().texto())};
+    const auto destino = entorno().impresora.elige(quien.empty() ? Titulo() : Titulo() + " - " + quien);
     if (destino == nullptr) return;
     try {
         escribeDocumento(*destino);
