@@ -2,8 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
 #include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -71,6 +73,10 @@ std::string cambiado(std::string linea, const std::string& antes, const std::str
     return linea.replace(sitio, antes.size(), ahora);
 }
 
+const RegistroCatalogo& registroDe(std::string_view clave) {
+    return std::ranges::find(CalculadorasDelPrograma(), clave, &EntradaCatalogo::clave)->registro;
+}
+
 TEST_F(TrasladoTest, ALineThatIsNoCaseSaysWhichFieldAndWhatWasExpectedAndNothingIsWritten) {
     const std::string linea =
         R"({"Estado":"","NombreSupuesto":"Peña","Nombre":"Ana","Edad":38,"Fecha":"2005-06-13",)"
@@ -99,7 +105,7 @@ TEST_F(TrasladoTest, ALineThatIsNoCaseSaysWhichFieldAndWhatWasExpectedAndNothing
         {"{", "", "no es JSON desde su byte"},
         {R"({"Estado")", R"([{"Estado")", "no es JSON"},
     };
-    const RegistroCatalogo& desempleo = CalculadorasDelPrograma()[1].registro;
+    const RegistroCatalogo& desempleo = registroDe("desempleo");
     for (const auto& [antes, ahora, dicho] : casos) {
         EXPECT_FALSE(importa(desempleo, linea + "\n\n" + cambiado(linea, antes, ahora) + "\n")) << ahora;
         EXPECT_THAT(errores.str(), HasSubstr("Línea 3: ")) << ahora;
