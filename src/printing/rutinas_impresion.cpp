@@ -82,6 +82,12 @@ void ponSubrayado(DestinoImpresion& destino, bool subrayado) {
     return tamano;
 }
 
+/// The fillers that surely fit are put at once: measuring a row of dots after each of them takes its time.
+std::string rellenado(std::string texto, std::string_view relleno, double veces) {
+    for (int i = 0; i < veces; ++i) texto += relleno;
+    return texto;
+}
+
 }  // namespace
 
 RutinasImpresion::RutinasImpresion(Imagen logo) : logo_{std::move(logo)} {}
@@ -260,9 +266,13 @@ void TrazaLinea(DestinoImpresion& destino, double x1, double y1, double x2, doub
 
 std::string RellenaAncho(const DestinoImpresion& destino, std::string_view texto, std::string_view relleno,
                          double ancho) {
-    std::string lleno{Recorta(texto)};
-    if (destino.TextWidth(relleno) <= 0) return lleno;  // it would never be filled
-    while (destino.TextWidth(lleno) < ancho) lleno += relleno;
+    const std::string recortado{Recorta(texto)};
+    const double paso = destino.TextWidth(relleno);
+    if (paso <= 0) return recortado;  // it would never be filled
+    std::string lleno = rellenado(recortado, relleno, (ancho - destino.TextWidth(recortado)) / paso - 1);
+    double lleva = destino.TextWidth(lleno);
+    if (lleva >= ancho) lleva = destino.TextWidth(lleno = recortado);
+    for (; lleva < ancho; lleva = destino.TextWidth(lleno)) lleno += relleno;
     return lleno;
 }
 

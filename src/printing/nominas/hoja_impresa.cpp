@@ -61,7 +61,6 @@ void HojaImpresa::ponFuente(int tamano) {
 void HojaImpresa::EscribeEn(double x, double y, std::string_view texto) {
     if (ErrorImpresion) return;
     const std::string_view recortado = Recorta(texto);
-    fin_ = x + destino_.TextWidth(recortado);
     if (recortado.empty()) return;
     destino_.CurrentX(static_cast<float>(x));
     destino_.CurrentY(static_cast<float>(y));
@@ -70,6 +69,12 @@ void HojaImpresa::EscribeEn(double x, double y, std::string_view texto) {
 
 void HojaImpresa::EscribeDerecha(double x, double y, std::string_view texto) {
     if (!ErrorImpresion) EscribeEn(x - destino_.TextWidth(texto), y, texto);
+}
+
+void HojaImpresa::escribeDesde(double x, double y, std::string_view texto) {
+    if (ErrorImpresion) return;
+    EscribeEn(x, y, texto);
+    fin_ = x + destino_.TextWidth(texto);
 }
 
 void HojaImpresa::traza(std::span<const Trazo> trazos) {
@@ -81,13 +86,13 @@ void HojaImpresa::escribe(const Sitio& sitio, std::string_view texto) {
     ponFuente(sitio.letra);
     switch (sitio.ajuste) {
         case Ajuste::Izquierda:
-            return EscribeEn(sitio.x, sitio.y, texto);
+            return escribeDesde(sitio.x, sitio.y, texto);
         case Ajuste::Derecha:
             return EscribeDerecha(sitio.x, sitio.y, texto);
         case Ajuste::Centro:
             return EscribeDerecha(sitio.x + destino_.TextWidth(texto) / 2, sitio.y, texto);
         case Ajuste::Detras:
-            return EscribeEn(fin_ + sitio.x, sitio.y, texto);
+            return escribeDesde(fin_ + sitio.x, sitio.y, texto);
         case Ajuste::Cabe:
             return encaja(sitio, std::string{texto});
     }

@@ -73,6 +73,7 @@ class HojaImpresa {
   private:
     void EscribeEn(double x, double y, std::string_view texto);
     void EscribeDerecha(double x, double y, std::string_view texto);
+    void escribeDesde(double x, double y, std::string_view texto);
     void ponFuente(Letra letra);
     void ponFuente(int tamano);
     void encaja(const Sitio& sitio, const std::string& texto);
@@ -80,7 +81,7 @@ class HojaImpresa {
     bool encajaEnDosLineas(const Sitio& sitio, const std::string& texto);
 
     DestinoImpresion& destino_;
-    double fin_ = 0;  ///< right end of the last text
+    double fin_ = 0;  ///< right end of the last text that begins where it was told
 };
 
 /// The step of a group of rows that has `alto` centimetres: 0.4, or less when they are many.

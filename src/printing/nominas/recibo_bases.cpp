@@ -111,8 +111,9 @@ void EscribeBases(const DatosRecibo& datos, HojaImpresa& hoja) {
     escribeHorasExtra(e.devengos, hoja);
     EscribeFila(26.5, {2.4, kCuerpo, "4. Base sujeta a retención del IRPF", e.devengos.BaseIRPF}, hoja);
     if (datos.hayDesempleoParcial())
-        hoja.escribe({2.4, 27.3, Letra::Rotulo}, "(1) Resultado de multiplicar el tipo normal por el coeficiente " +
-                                               TextoPlano(datos.entradas().CoefDesempleo));
+        hoja.escribe({2.4, 27.3, Letra::Rotulo},
+                     "(1) Resultado de multiplicar el tipo normal por el coeficiente " +
+                         TextoPlano(datos.entradas().CoefDesempleo));
 }
 
 }  // namespace orvemo::nomina
