@@ -1,5 +1,6 @@
 #include "foundations/frame/calculadora.h"
 
+#include <optional>
 #include <utility>
 
 #include "foundations/values/fallos.h"
@@ -112,7 +113,8 @@ void Calculadora::DatosCargaRegistro(int r) {
     if (r < 1) return;
     const std::string bytes = archivo().lee(r);
     const std::string antes = escribeCaso();
-    const Instantanea campos{*this};
+    std::optional<Instantanea> campos;  // without a renderer nobody sees what stands there
+    if (vista() != nullptr) campos.emplace(*this);
     try {
         leeCaso(bytes);
         cargaCampos();
@@ -120,7 +122,7 @@ void Calculadora::DatosCargaRegistro(int r) {
     } catch (const Fallo&) {
         // A case that can't be shown leaves the one on screen as it was.
         leeCaso(antes);
-        campos.restaura();
+        if (campos) campos->restaura();
         throw;
     }
     NombreActual_ = NombreSupuesto();
@@ -149,7 +151,7 @@ void Calculadora::GrabaCaso() {
     } else if (!DatosGrabaRegistro(dialogo.Registro())) {
         throw Fallo{motivoFallo_};
     }
-    casoEnElTitulo(NombreActual_);
+    casoEnElTitulo(NombreSupuesto());
 }
 
 void Calculadora::DatosAppendRegistro() {
