@@ -46,6 +46,8 @@ class Control {
     void refresca();
     /// Takes the focus, all its text selected.
     virtual void enfoca() { widget().setFocus(Qt::OtherFocusReason); }
+    /// The focus only touched it: the form refused it.
+    virtual void deja() {}
 
   protected:
     virtual void refrescaValor() = 0;

@@ -27,6 +27,7 @@ void GuardiaFoco::cambia(QWidget* ahora) {
     if (ahora == nullptr || ahora->window() != &ventana_) return;
     Control* control = controlDe(ahora);
     if (control == nullptr) return;
+    tocado_ = ahora;
     if (std::exchange(pendiente_, &control->campo()) == nullptr) encola();
 }
 
@@ -39,8 +40,11 @@ bool GuardiaFoco::procesa() {
     if (procesando_ || pendiente_ == nullptr) return true;
     procesando_ = true;
     Campo& destino = *std::exchange(pendiente_, nullptr);
+    const QPointer<QWidget> tocado = tocado_;  // a box may let the panel be built anew
     const bool admitido = formulario_.oculto() || formulario_.foco(destino);
     procesando_ = false;
+    // The box told why while the window wasn't active: the widget doesn't hear that the focus went back.
+    if (!admitido && !tocado.isNull()) controlDe(tocado)->deja();
     // While a box was open the queue may have run dry without telling where the focus went since.
     if (pendiente_ != nullptr) encola();
     return admitido;
@@ -50,6 +54,7 @@ bool GuardiaFoco::toma(Control& control) {
     if (!procesa()) return false;
     control.widget().setFocus(Qt::OtherFocusReason);
     // Without a window manager the window may be inactive and tell no movement.
+    tocado_ = &control.widget();
     pendiente_ = &control.campo();
     return procesa();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 #include "toolkit/control.h"
 
@@ -27,6 +28,7 @@ class GuardiaFoco final : public QObject {
     QWidget& ventana_;
     Formulario& formulario_;
     Campo* pendiente_ = nullptr;  ///< where the focus has gone, the form not being told yet
+    QPointer<QWidget> tocado_;    ///< the widget there
     bool procesando_ = false;
 };
 

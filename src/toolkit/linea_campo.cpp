@@ -203,7 +203,10 @@ void LineaCampo::focusInEvent(QFocusEvent* suceso) {
 
 void LineaCampo::focusOutEvent(QFocusEvent* suceso) {
     QLineEdit::focusOutEvent(suceso);
-    if (!cambiaDeCampo(suceso->reason())) return;
+    if (cambiaDeCampo(suceso->reason())) deja();
+}
+
+void LineaCampo::deja() {
     recienEntrado_ = false;
     editando_ = false;
     deselect();

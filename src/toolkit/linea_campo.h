@@ -14,6 +14,7 @@ class LineaCampo : public QLineEdit, public Control {
 
     [[nodiscard]] QWidget& widget() override { return *this; }
     void enfoca() override;
+    void deja() override;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -205,6 +205,15 @@ TEST_F(CamposTest, ATypedDateIsTidiedOnLeavingAndAPickerIsNotLeftWithABadOne) {
     }
 }
 
+TEST_F(CamposTest, AnAmountThatTheFocusOnlyTouchedShowsItsPattern) {
+    v.pantalla.Suma.ponTexto("0");
+    entraEn("Edad");
+    escribe("200");
+    v.tecla(Qt::Key_Tab);
+    EXPECT_EQ(v.foco(), "Edad") << "refused";
+    EXPECT_EQ(deQt(v.widget<QLineEdit>("Suma").text()), "0,00");
+}
+
 // --- Lists and boxes
 
 void ruedaSobre(QWidget& widget) {
