@@ -1,6 +1,7 @@
 #include "lote/lote.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QImage>
@@ -99,6 +100,11 @@ TEST_F(LoteTest, WhatCannotBeUsedIsToldAndNothingIsMade) {
     } casos[] = {
         {"no such file", [](Opciones& o, const fs::path& d) { o.fichero = d / "nada.nom"; }},
         {"a directory", [](Opciones& o, const fs::path& d) { o.fichero = d; }},
+        {"a pipe",
+         [](Opciones& o, const fs::path& d) {
+             o.fichero = d / "fifo.nom";
+             ASSERT_EQ(mkfifo(o.fichero.c_str(), 0600), 0);
+         }},
         {"no such calculator", [](Opciones& o, const fs::path&) { o.calculadora = "loteria"; }},
         {"a free record", [](Opciones& o, const fs::path&) { o.registro = 2; }},
         {"beyond the end", [](Opciones& o, const fs::path&) { o.registro = 9; }},

@@ -25,6 +25,9 @@ TEST(OpcionesLote, ReadsAWholeCommandLine) {
     EXPECT_EQ(o.datos, "/d");
     EXPECT_EQ(o.pdf, "/p");
     EXPECT_TRUE(o.json);
+    EXPECT_EQ(o.mandato, Mandato::Calcula);
+    EXPECT_EQ(lee({"exporta", "desempleo", "casos.nom"}).mandato, Mandato::Exporta);
+    EXPECT_EQ(lee({"importa", "desempleo", "casos.nom"}).fichero, "casos.nom");
 }
 
 TEST(OpcionesLote, RefusesWhatItCannotUse) {
@@ -32,6 +35,7 @@ TEST(OpcionesLote, RefusesWhatItCannotUse) {
         {},
         {"desempleo"},
         {"desempleo", "a.nom", "b.nom"},
+        {"exporta", "desempleo"},
         {"desempleo", "a.nom", "--registro", "0"},
         {"desempleo", "a.nom", "--registro", "uno"},
         {"desempleo", "a.nom", "--hoy", "2005-02-30"},
