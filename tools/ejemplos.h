@@ -14,6 +14,9 @@ void ejemplosMaternidad(orvemo::Almacen& directorio);
 /// Writes "RiesgoEm.nom".
 void ejemplosRiesgoEmbarazo(orvemo::Almacen& directorio);
 
+/// Writes "RIRPF.nom".
+void ejemplosIrpf(orvemo::Almacen& directorio);
+
 /// Writes "nominas.nom".
 void ejemplosNominas(orvemo::Almacen& directorio);
 

@@ -77,6 +77,7 @@ constexpr std::array kEjemplos{
     Ejemplos{"invalid.nom", ejemplosIncapacidad},     Ejemplos{"muerte.nom", ejemplosMuerte},
     Ejemplos{"RiesgoEm.nom", ejemplosRiesgoEmbarazo}, Ejemplos{"nocont.nom", noContributiva},
     Ejemplos{"nominas.nom", ejemplosNominas},         Ejemplos{"Capit.nom", ejemplosCapital},
+    Ejemplos{"RIRPF.nom", ejemplosIrpf},
 };
 
 }  // namespace

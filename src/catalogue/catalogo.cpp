@@ -13,6 +13,8 @@
 #include "pensions/incapacidad/inva_frm.h"
 #include "pensions/jubilacion/pension_frm.h"
 #include "pensions/muerte/muerte_frm.h"
+#include "tax/liquidos_frm.h"
+#include "tax/rirpf_frm.h"
 
 namespace orvemo {
 
@@ -30,6 +32,8 @@ constexpr std::array kCalculadoras{
     conSupuestos<FamiliarFrm>("familiar", "FamiliarFrm", "Familiar.nom"),
     conSupuestos<CapitFrm>("capital", "CapitFrm", "Capit.nom", "Capit.nom"),
     conSupuestos<NominaFrm>("nomina", "NominaFrm", "nominas.nom", "ejemplos/nominas.nom"),
+    conSupuestos<RetIrpfFrm>("irpf", "RetIrpfFrm", "RIRPF.nom", "ejemplos/RIRPF.nom"),
+    EntradaCatalogo{.clave = "liquidos", .pantalla = "LiquidosFrm", .abre = abrePantalla<LiquidosFrm>},
 };
 
 }  // namespace

@@ -12,6 +12,8 @@
 #include "foundations/frame/asistente.h"
 #include "foundations/values/fallos.h"
 #include "lote/almacen_lote.h"
+#include "lote/liquidos_lote.h"
+#include "lote/mundo_lote.h"
 #include "lote/salida.h"
 #include "lote/traslado.h"
 #include "toolkit/impresora_pdf.h"
@@ -19,27 +21,6 @@
 namespace orvemo::lote {
 
 namespace {
-
-/// Nobody sits before a batch: questions get a No, and the first error said is why the case failed.
-class MensajesLote final : public Mensajes {
-  public:
-    std::string error;
-
-    bool Confirma(std::string_view /*texto*/) override { return false; }
-    void Informa(std::string_view /*texto*/) override {}
-    void ComunicaError(std::string_view texto) override {
-        if (error.empty()) error = texto;
-    }
-};
-
-class RelojLote final : public Reloj {
-  public:
-    explicit RelojLote(const std::optional<Fecha>& hoy) : hoy_{hoy.value_or(RelojDelSistema{}.hoy())} {}
-    [[nodiscard]] Fecha hoy() const override { return hoy_; }
-
-  private:
-    Fecha hoy_;
-};
 
 /// One calculator, with a world of its own around it.
 class Apertura {
@@ -234,6 +215,8 @@ int obedece(const Opciones& opciones, Calculadoras catalogo, const std::filesyst
             std::ostream& salida, std::ostream& errores, std::istream& entrada) {
     compruebaRutas(opciones);
     const RegistroCatalogo& registro = registroPedido(catalogo, opciones.calculadora);
+    const auto datos = opciones.datos.value_or(datosPorDefecto);
+    if (registro.abre == nullptr) return CalculaLiquidos(opciones, datos, salida);
     if (opciones.mandato == Mandato::Exporta) {
         Exporta(registro, opciones.fichero, salida);
         if (!salida.flush()) throw ArgumentoInservible{"No se puede escribir la salida."};
@@ -243,7 +226,7 @@ int obedece(const Opciones& opciones, Calculadoras catalogo, const std::filesyst
         const bool importado = Importa(registro, opciones.fichero, entrada, errores);
         return importado ? kTodoCalculado : kInservible;
     }
-    Lote lote{opciones, opciones.datos.value_or(datosPorDefecto), registro};
+    Lote lote{opciones, datos, registro};
     return calculaTodo(opciones, lote, salida);
 }
 

@@ -4,6 +4,10 @@
 #include <QCommandLineParser>
 #include <QDate>
 #include <QStringList>
+#include <algorithm>
+#include <limits>
+
+#include "foundations/values/numeros.h"
 
 namespace orvemo::lote {
 
@@ -19,6 +23,11 @@ const QCommandLineOption kPapel{
 const QCommandLineOption kJson{"json", "Un objeto JSON por línea en lugar de texto."};
 const QCommandLineOption kLista{
     "lista", "Muestra las calculadoras, una por línea, con su fichero de supuestos y el de sus ejemplos."};
+const QCommandLineOption kNeto{"neto", "De «liquidos»: salario líquido mensual, en euros.", "EUROS"};
+const QCommandLineOption kExtra{"extra", "De «liquidos»: pagas extra al año.", "N"};
+const QCommandLineOption kGrupo{"grupo", "De «liquidos»: grupo de cotización, de 1 a 11.", "N"};
+const QCommandLineOption kContrato{
+    "contrato", "De «liquidos»: 0 indefinido, 1 de duración determinada, 2 sin cuota del trabajador.", "N"};
 const QCommandLineOption kAyuda{{"h", "ayuda"}, "Muestra esta ayuda."};
 
 // The parser sees every byte of the command line as one character: a file name needn't be UTF-8.
@@ -30,18 +39,36 @@ std::string comoSeDio(const QString& argumento) {
     return argumento.toLatin1().toStdString();
 }
 
-int leeRegistro(const QString& texto) {
+int leeEntero(const QString& texto, int minimo, int maximo, const char* motivo) {
     bool legible = false;
-    const int registro = texto.toInt(&legible);
-    if (!legible || registro < 1) throw ArgumentoInservible{"El registro debe ser un número desde 1."};
-    return registro;
+    const int numero = texto.toInt(&legible);
+    if (!legible || numero < minimo || numero > maximo) throw ArgumentoInservible{motivo};
+    return numero;
 }
 
-int leePapel(const QString& texto) {
-    bool legible = false;
-    const int papel = texto.toInt(&legible);
-    if (!legible || papel < 0) throw ArgumentoInservible{"El papel debe ser un número desde 0."};
-    return papel;
+/// With a comma or a point before the cents.
+std::string leeNeto(const QString& texto) {
+    std::string neto = comoSeDio(texto);
+    std::ranges::replace(neto, '.', ',');
+    if (!EsNumero(neto)) throw ArgumentoInservible{"--neto debe ser un importe, como 1234,56."};
+    return neto;
+}
+
+OpcionesLiquidos leeLiquidos(const QCommandLineParser& analizador) {
+    OpcionesLiquidos liquidos;
+    if (analizador.isSet(kNeto)) liquidos.neto = leeNeto(analizador.value(kNeto));
+    if (analizador.isSet(kExtra)) {
+        const int extra = leeEntero(analizador.value(kExtra), 0, std::numeric_limits<int>::max(),
+                                    "--extra debe ser un número desde 0.");
+        liquidos.extra = std::to_string(extra);
+    }
+    if (analizador.isSet(kGrupo)) {
+        liquidos.grupo = leeEntero(analizador.value(kGrupo), 1, 11, "--grupo debe estar entre 1 y 11.");
+    }
+    if (analizador.isSet(kContrato)) {
+        liquidos.contrato = leeEntero(analizador.value(kContrato), 0, 2, "--contrato debe ser 0, 1 o 2.");
+    }
+    return liquidos;
 }
 
 Fecha leeHoy(const QString& texto) {
@@ -85,7 +112,8 @@ void describe(QCommandLineParser& analizador, Calculadoras catalogo) {
     analizador.addPositionalArgument("CALCULADORA",
                                      QString::fromStdString("Una de: " + nombresDisponibles(catalogo)));
     analizador.addPositionalArgument("FICHERO", "Fichero de supuestos (*.nom).");
-    analizador.addOptions({kRegistro, kHoy, kDatos, kPdf, kPapel, kJson, kLista, kAyuda});
+    analizador.addOptions(
+        {kRegistro, kHoy, kDatos, kPdf, kPapel, kJson, kNeto, kExtra, kGrupo, kContrato, kLista, kAyuda});
 }
 
 }  // namespace
@@ -113,12 +141,18 @@ Opciones leeOpciones(const std::vector<std::string>& argumentos, Calculadoras ca
     if (sueltos.size() != 2) throw ArgumentoInservible{"Se esperan CALCULADORA y FICHERO (véase --ayuda)."};
     opciones.calculadora = comoSeDio(sueltos[0]);
     opciones.fichero = comoSeDio(sueltos[1]);
-    if (analizador.isSet(kRegistro)) opciones.registro = leeRegistro(analizador.value(kRegistro));
+    if (analizador.isSet(kRegistro))
+        opciones.registro = leeEntero(analizador.value(kRegistro), 1, std::numeric_limits<int>::max(),
+                                      "El registro debe ser un número desde 1.");
     if (analizador.isSet(kHoy)) opciones.hoy = leeHoy(analizador.value(kHoy));
     if (analizador.isSet(kDatos)) opciones.datos = comoSeDio(analizador.value(kDatos));
     if (analizador.isSet(kPdf)) opciones.pdf = comoSeDio(analizador.value(kPdf));
-    if (analizador.isSet(kPapel)) opciones.papel = leePapel(analizador.value(kPapel));
+    if (analizador.isSet(kPapel)) {
+        opciones.papel = leeEntero(analizador.value(kPapel), 0, std::numeric_limits<int>::max(),
+                                   "El papel debe ser un número desde 0.");
+    }
     opciones.json = analizador.isSet(kJson);
+    opciones.liquidos = leeLiquidos(analizador);
     return opciones;
 }
 

@@ -14,6 +14,14 @@ namespace orvemo::lote {
 /// What the batch does with the case file.
 enum class Mandato { Calcula, Exporta, Importa };
 
+/// What net to gross is asked for; who asks are the people of a file of cases of withholding.
+struct OpcionesLiquidos {
+    std::string neto = "915";  ///< as it is written on its field
+    std::string extra = "2";
+    int grupo = 1;     ///< of contribution, from 1
+    int contrato = 0;  ///< entry of its list
+};
+
 /// What one run of the batch was asked for.
 struct Opciones {
     Mandato mandato{Mandato::Calcula};
@@ -25,6 +33,7 @@ struct Opciones {
     std::optional<std::filesystem::path> pdf{};    ///< directory that takes the printed reports
     std::optional<int> papel{};  ///< kind of beneficiaries, where the record doesn't keep it
     bool json = false;
+    OpcionesLiquidos liquidos{};
 };
 
 /// An argument that can't be used; `what()` says so in Spanish.

@@ -103,7 +103,9 @@ inline void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const
     }
     ASSERT_NE(campo, nullptr) << "not on view: " << rotulo;
     ASSERT_TRUE(frm.foco(*campo)) << rotulo;
-    if (campo->def().clase == Clase::Casilla) {
+    if (campo->def().clase == Clase::Boton) {
+        ASSERT_TRUE(frm.pulsa(*campo)) << rotulo;
+    } else if (campo->def().clase == Clase::Casilla) {
         frm.marca(*campo, valor == "sí");
     } else if (campo->esLista()) {
         const auto opcion = std::ranges::find(campo->opciones(), valor);

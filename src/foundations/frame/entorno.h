@@ -18,6 +18,7 @@ struct ValoresPrograma {
     std::int32_t LiquidoAnterior = 915;  ///< last net figure entered, euros per month
     std::uint8_t PagasAnterior = 2;      ///< extra pays offered with it
     bool FinPrograma = false;
+    std::string LimitaTipo{};  ///< "S" once a regularisation of the withholding was capped
 };
 
 /// Where printed documents go.
