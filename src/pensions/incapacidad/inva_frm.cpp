@@ -84,6 +84,7 @@ InvaFrm::InvaFrm(Entorno& entorno)
               .marco = "InvaBases",
               .lineas = kLineasBases,
               .primeraPantalla = kPrimerMarco}} {
+    ponPanel(kDatos, {.denso = true});
     enlazaCampos();
 }
 

@@ -114,6 +114,7 @@ MuerteFrm::MuerteFrm(Entorno& entorno)
                      .pantalla = kPeriodos,
                      .defecto = "0",
                      .contenido = Contenido::Entero})} {
+    ponPanel(kDatos, {.denso = true});
     enlazaCampos();
 }
 
