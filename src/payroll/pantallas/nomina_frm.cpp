@@ -15,8 +15,9 @@ using namespace nomina;
 namespace {
 
 // Characters that the fields show: the panels are dense.
-constexpr int kAnchoLista = 34;
-constexpr int kAnchoTexto = 34;
+constexpr int kAnchoLista = 30;
+constexpr int kAnchoTexto = 26;
+constexpr int kAnchoIncidencia = 15;
 constexpr int kAnchoNumero = 10;
 
 // Stored with the blanks that the list has had since ever.
@@ -50,7 +51,6 @@ NominaFrm::NominaFrm(Entorno& entorno)
       listaIncidencias_{ListaIncidencias()} {
     ponPanel(kContrato, {.denso = true});
     declaraContrato();
-    declaraPagas();
     declaraConceptos();
     declaraIncidencias();
     declaraExtraYParcial();
@@ -99,12 +99,12 @@ Campo& NominaFrm::cifra(std::string nombre, std::string rotulo, Grupo& grupo, in
 }
 
 /// A text that only the program writes.
-void NominaFrm::leyenda(std::string nombre, Grupo& grupo, int indice) {
+void NominaFrm::leyenda(std::string nombre, Grupo& grupo, int indice, int anchura) {
     nuevo({.nombre = std::move(nombre),
            .indice = indice,
            .pantalla = grupo.def().pantalla,
            .grupo = &grupo,
-           .anchura = kAnchoTexto})
+           .anchura = anchura == 0 ? kAnchoTexto : anchura})
         .ponActivo(false);
 }
 
@@ -160,20 +160,12 @@ void NominaFrm::declaraContrato() {
                aplica(c, CompruebaCese(c.texto(), campo("NomiFechaAlta").texto(), this->mes()));
            }});
     numero("NomiEdad", "Edad:", {.grupo = &g, .defecto = "25"});
-    numero("NomiIRPFExtra", "% IRPF:", {.grupo = &g, .defecto = "0"});
-}
-
-void NominaFrm::declaraPagas() {
-    Grupo& g = nuevoGrupo({.nombre = "Pagas",
-                           .titulo = "Pagas extra (Mensuales)",
-                           .disposicion = Disposicion::Tabla,
-                           .columnas = 2,
-                           .encabezados = {"Pagas extra:", "pagas de "}});
-    grupoPagas_ = &g;
-    for (int i = 0; i < 2; ++i) {
-        numero("NomiNumPagas", "", {.indice = i, .grupo = &g, .defecto = i == 0 ? "2" : "0", .anchura = 4});
-        numero("NomiPagaExtra", "", {.indice = i, .grupo = &g, .defecto = "0"});
+    for (int fila = 0; fila < 2; ++fila) {
+        numero("NomiNumPagas",
+               "Pagas extra:", {.indice = fila, .grupo = &g, .defecto = fila == 0 ? "2" : "0", .anchura = 4});
+        numero("NomiPagaExtra", "pagas de (Mensuales)", {.indice = fila, .grupo = &g, .defecto = "0"});
     }
+    numero("NomiIRPFExtra", "% IRPF:", {.grupo = &g, .defecto = "0"});
 }
 
 void NominaFrm::declaraConceptos() {
@@ -181,8 +173,7 @@ void NominaFrm::declaraConceptos() {
                            .titulo = "Conceptos del recibo de salario",
                            .disposicion = Disposicion::Tabla,
                            .columnas = 5,
-                           .encabezados = {"Código", "", "Concepto", "Importe", "Período"},
-                           .alLado = true});
+                           .encabezados = {"Código", "", "Concepto", "Importe", "Período"}});
     for (int i = 0; i < kConceptos; ++i) {
         nuevo({.nombre = "NomiConcepto",
                .indice = i,
@@ -229,7 +220,8 @@ void NominaFrm::declaraIncidencias() {
                            .titulo = "Incidencias del mes",
                            .disposicion = Disposicion::Tabla,
                            .columnas = 5,
-                           .encabezados = {"Código", "", "Incidencia", "del día", "al"}});
+                           .encabezados = {"Código", "", "Incidencia", "del día", "al"},
+                           .alLado = true});
     for (int i = 0; i < kIncidencias; ++i) {
         nuevo({.nombre = "NomiIncidencia",
                .indice = i,
@@ -244,7 +236,7 @@ void NominaFrm::declaraIncidencias() {
         ayuda.grupo = &g;
         ayuda.mismaLinea = false;
         nuevo(std::move(ayuda));
-        leyenda("NomiTextoIncidencia", g, i);
+        leyenda("NomiTextoIncidencia", g, i, kAnchoIncidencia);
         nuevo({.nombre = "NomiFechaInci1",
                .indice = i,
                .grupo = &g,

@@ -51,7 +51,6 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
 
     // --- Declaration
     void declaraContrato();
-    void declaraPagas();
     void declaraConceptos();
     void declaraIncidencias();
     void declaraExtraYParcial();
@@ -70,7 +69,7 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     Campo& numero(std::string nombre, std::string rotulo, DefCampo sitio);
     Campo& fecha(std::string nombre, std::string rotulo, DefCampo sitio);
     Campo& cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice = 0, int anchura = 14);
-    void leyenda(std::string nombre, Grupo& grupo, int indice);
+    void leyenda(std::string nombre, Grupo& grupo, int indice, int anchura = 0);
     Campo& boton(std::string nombre, std::string rotulo, int pantalla, void (NominaFrm::*accion)());
     /// The pair that leaves a panel of results.
     void botonesDe(int pantalla, const char* anterior, const char* siguiente);
@@ -89,6 +88,7 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void ajustaCamposContrato();
     void avisaExtras();
     void cambiaCategoria();
+    void rotulaPagas();
     void proponeCese();
 
     void cargaContrato(const std::string& Codigo);
@@ -144,7 +144,6 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     std::vector<std::string> listaConceptos_, listaIncidencias_;
     bool conTC2_ = true;  ///< what the next document holds
     bool conRecibo_ = true;
-    Grupo* grupoPagas_ = nullptr;
     Grupo* grupoExtra_ = nullptr;    ///< period of the extra pay
     Grupo* grupoBaja_ = nullptr;     ///< what a leave needs
     Campo* destinoAyuda_ = nullptr;  ///< field that an open help list fills

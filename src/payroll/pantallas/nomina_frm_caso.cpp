@@ -38,6 +38,7 @@ void NominaFrm::LimpiaDatos() {
     campo("NomiEpigrafe").ponIndice(BuscaEnLista(tablas_.epigrafes.lista(), "113"));
     cambiaGrupoContrato();
     proponeCese();
+    rotulaPagas();
     cargaOpciones();
     caso_ = {};
     estado_ = {};
@@ -145,7 +146,7 @@ void NominaFrm::cargaCampos() {
     campo("NomiEpigrafe").ponIndice(BuscaEnLista(tablas_.epigrafes.lista(), caso_.Epigrafe.utf8()));
     cargaContrato(caso_.CodigoContrato.utf8SinRecortar());
     for (const Enlace& enlace : enlaces_) enlace.carga(caso_);
-    grupoPagas_->ponTitulo(cobraPorDias() ? "Pagas extra (Diarias)" : "Pagas extra (Mensuales)");
+    rotulaPagas();
     for (int i = 0; i < kConceptos; ++i) cargaConcepto(concepto(i));
     for (int i = 0; i < kIncidencias; ++i) cargaIncidencia(incidencia(i));
 }

@@ -169,8 +169,14 @@ void NominaFrm::avisaExtras() {
     if (!aviso.empty()) mensajes().Informa(aviso);
 }
 
+void NominaFrm::rotulaPagas() {
+    for (const int fila : {0, 1})
+        campo("NomiPagaExtra", fila)
+            .ponRotulo(cobraPorDias() ? "pagas de (Diarias)" : "pagas de (Mensuales)");
+}
+
 void NominaFrm::cambiaCategoria() {
-    grupoPagas_->ponTitulo(cobraPorDias() ? "Pagas extra (Diarias)" : "Pagas extra (Mensuales)");
+    rotulaPagas();
     avisaExtras();
 }
 
