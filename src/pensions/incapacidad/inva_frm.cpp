@@ -7,6 +7,7 @@
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 #include "pensions/incapacidad/incapacidad.h"
+#include "tax/liquidos_frm.h"
 
 namespace orvemo {
 
@@ -65,6 +66,10 @@ InvaFrm::InvaFrm(Entorno& entorno)
                             .defecto = "0",
                             .contenido = Contenido::Decimal,
                             .formato = kFormatoImporte})},
+      InvaCalcularSalario{nuevo({.nombre = "InvaCalcularSalario",
+                                 .rotulo = "&Obtener Salario Anual",
+                                 .clase = Clase::Boton,
+                                 .alPulsar = [this](Campo&) { calculaSalario(); }})},
       InvaFrmPer{*this,
                  {.prefijo = "Inva", .grupo = "InvaFrmPer", .filas = kFilasPeriodos, .pantalla = kPeriodos}},
       HorasTP{nuevasHoras("HorasTP", "Total de Horas cotizadas en contratos a tiempo parcial:")},
@@ -191,6 +196,8 @@ void InvaFrm::ajustaVisibles() {
     InvaUltimaBase.ponVisible(lee.ultimaBase);
     InvaUltimaBase.ponRotulo(
         std::string{incapacidad::RotuloUltimaBase(elegida<Grado>(InvaInvalidez), elegida<Causa>(InvaCausa))});
+    InvaCalcularSalario.ponVisible(lee.ultimaBase && elegida<Grado>(InvaInvalidez) != Grado::Parcial &&
+                                   elegida<Causa>(InvaCausa) == Causa::Profesional);
     InvaFrmPer.grupo().ponVisible(lee.periodos);
     HorasTP.ponVisible(lee.periodos);
     HorasTP10.ponVisible(lee.periodos);
@@ -198,6 +205,12 @@ void InvaFrm::ajustaVisibles() {
     InvaSumaBases.ponVisible(lee.bases && !InvaBasesDesglosadas.marcado());
     InvaSumaBases.ponRotulo("Suma ponderada de las bases de cotización de los últimos " +
                             TextoPlano(InvaMinimoBases()) + " meses");
+}
+
+/// A template for who knows the net pay alone: the salary that it shows is written on the field by hand.
+void InvaFrm::calculaSalario() {
+    LiquidosFrm plantilla{entorno()};
+    abreModal(plantilla);
 }
 
 int InvaFrm::InvaMinimoBases() {

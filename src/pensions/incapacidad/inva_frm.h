@@ -51,6 +51,7 @@ class InvaFrm final : public AsistenteDe<incapacidad::RegistroIncapacidad, incap
     void enlazaCampos();
 
     void ajustaVisibles();
+    void calculaSalario();
     [[nodiscard]] incapacidad::Lecturas lecturas() const;
     [[nodiscard]] std::vector<int> recorrido() const;
     void imprimeMarcas(Informe& informe) const;
@@ -68,6 +69,7 @@ class InvaFrm final : public AsistenteDe<incapacidad::RegistroIncapacidad, incap
     Campo& InvaPersona;
     Campo& InvaRecargo;
     Campo& InvaUltimaBase;
+    Campo& InvaCalcularSalario;
     pensiones::PeriodosCotizados InvaFrmPer;
     Campo& HorasTP;
     Campo& HorasTP10;
