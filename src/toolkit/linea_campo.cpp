@@ -21,7 +21,8 @@ constexpr int kAnchuraTexto = 34;
 constexpr int kAnchuraEntero = 7;
 constexpr int kAnchuraDecimal = 13;
 constexpr int kAnchuraMinima = 3;
-constexpr int kCitaMaxima = 20;  // of what could not be pasted
+constexpr int kAnchuraEstrecha = 20;  // more than any figure or date asks for
+constexpr int kCitaMaxima = 20;       // of what could not be pasted
 
 /// A key whose text is to be inserted, no command of the line editor.
 bool escribeTexto(const QKeyEvent& tecla) {
@@ -53,7 +54,7 @@ LineaCampo::LineaCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfi
         setFocusPolicy(Qt::NoFocus);
     }
     setTextMargins(px(kRellenoCampo), 0, px(kRellenoCampo), 0);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     connect(this, &QLineEdit::textChanged, this, &LineaCampo::cambia);
     // Both come after the change that they tell: until then the place where it began is still known.
     connect(this, &QLineEdit::selectionChanged, this, &LineaCampo::recuerdaElCursor);
@@ -87,6 +88,11 @@ QSize LineaCampo::sizeHint() const {
         texto + margenes.left() + margenes.right() + 2 * opcion.lineWidth + px(kRellenoCampo),
         fontMetrics().height()};
     return style()->sizeFromContents(QStyle::CT_LineEdit, &opcion, contenido, this);
+}
+
+QSize LineaCampo::minimumSizeHint() const {
+    const QSize talla = sizeHint();
+    return {std::min(talla.width(), fontMetrics().averageCharWidth() * kAnchuraEstrecha), talla.height()};
 }
 
 // --- Program to screen

@@ -16,7 +16,8 @@ class LineaCampo : public QLineEdit, public Control {
     void enfoca() override;
     void deja() override;
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    /// A long text may be squeezed; figures and dates are seen whole.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void refrescaValor() override;

@@ -14,6 +14,7 @@ namespace {
 // Characters.
 constexpr int kAnchuraMinima = 6;
 constexpr int kAnchuraMaxima = 44;
+constexpr int kAnchuraEstrecha = 20;
 
 constexpr int kMargenDeLista = 120;  // twips beside the widest entry when the list drops down
 
@@ -35,7 +36,7 @@ int masLarga(const QStringList& opciones) {
 
 ListaCampo::ListaCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfitrion} {
     setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     connect(this, &QComboBox::activated, this, [this](int indice) {
         if (this->anfitrion().tomaFoco(*this)) {
@@ -44,6 +45,11 @@ ListaCampo::ListaCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfi
             refrescaValor();
         }
     });
+}
+
+QSize ListaCampo::minimumSizeHint() const {
+    const QSize talla = sizeHint();
+    return {std::min(talla.width(), fontMetrics().averageCharWidth() * kAnchuraEstrecha), talla.height()};
 }
 
 void ListaCampo::refrescaValor() {

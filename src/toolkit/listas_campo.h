@@ -13,6 +13,8 @@ class ListaCampo final : public QComboBox, public Control {
     ListaCampo(Campo& campo, Anfitrion& anfitrion);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
+    /// Where there is no room for its entries it shows their beginnings; the whole ones when it drops down.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void refrescaValor() override;

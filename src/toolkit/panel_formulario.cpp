@@ -32,6 +32,7 @@ constexpr int kMargenDenso = 75;
 constexpr int kBajoRotulo = 45;
 constexpr int kAnchoUtil = 9120;     // of a panel
 constexpr int kAnchoRotulos = 3650;  // of a column of labels, at most: two fifths of it
+constexpr int kAnchoJuntos = 5000;   // of all the columns of labels that stand side by side
 
 constexpr std::size_t kFilasHolgadas = 12;
 
@@ -64,7 +65,7 @@ bool creceEnAlto(Clase clase) {
 }
 
 bool esBotonSolo(const std::vector<Campo*>& fila) {
-    return fila.size() == 1 && fila.front()->def().clase == Clase::Boton;
+    return fila.size() == 1 && fila.front()->def().clase == Clase::Boton && !fila.front()->def().pequeno;
 }
 
 bool esVeredicto(const Campo& campo) {
@@ -131,7 +132,7 @@ PanelFormulario::PanelFormulario(int pantalla, Anfitrion& anfitrion) : anfitrion
     pila->setContentsMargins(0, 0, 0, 0);
     pila->setSpacing(px(denso ? kHuecoBloquesDenso : kHuecoBloques));
     for (const Bloque& bloque : bloques(pantalla)) {
-        anchoRotulo_ = px(bloque.enFila == 1 ? kAnchoRotulos : kAnchoUtil / 2 / bloque.enFila);
+        anchoRotulo_ = px(bloque.enFila == 1 ? kAnchoRotulos : kAnchoJuntos / bloque.enFila);
         if (bloque.grupo == nullptr) {
             agregaSueltos(bloque.filas);
         } else {
@@ -216,7 +217,7 @@ void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
             reparteEnTabla(*rejilla, filas, def);
             break;
         case Disposicion::Columnas:
-            anchoRotulo_ /= def.columnas;
+            if (def.columnas > 1) anchoRotulo_ = px(kAnchoJuntos / def.columnas);
             reparteEnColumnas(*rejilla, filas, def.columnas);
             break;
     }

@@ -134,7 +134,7 @@ QSize tallaDeMarca(const QFontMetrics& letra, const QString& texto, int anchoMax
     const QSize escrito = letra.boundingRect(hoja, kTextoDeMarca, texto).size();
     const int aire = px(kAireFoco);
     return {px(kLadoMarca + kHuecoMarca) + escrito.width() + 1 + 2 * aire,
-            escrito.height() + qMax(0, px(kLadoMarca) - letra.height()) + 2 * aire};
+            escrito.height() + qMax(0, px(kLadoMarca) - letra.height()) + aire};
 }
 
 void pintaMarcaConTexto(QPainter& pincel, const QStyleOptionButton& opcion,
@@ -143,10 +143,10 @@ void pintaMarcaConTexto(QPainter& pincel, const QStyleOptionButton& opcion,
     const int lado = px(kLadoMarca);
     const int renglon = opcion.fontMetrics.height();
     QStyleOption marca = opcion;
-    marca.rect = {aire, aire + qMax(0, (renglon - lado) / 2), lado, lado};
+    marca.rect = {aire, aire / 2 + qMax(0, (renglon - lado) / 2), lado, lado};
     pintaMarca(pincel, marca);
     pincel.setPen(opcion.palette.color(QPalette::WindowText));
-    const int arriba = aire + qMax(0, (lado - renglon) / 2);
+    const int arriba = aire / 2 + qMax(0, (lado - renglon) / 2);
     const QRect texto = opcion.rect.adjusted(aire + lado + px(kHuecoMarca), arriba, 0, 0);
     pincel.drawText(texto, kTextoDeMarca, opcion.text);
     if (conFoco(opcion)) pintaFoco(pincel, opcion.rect);

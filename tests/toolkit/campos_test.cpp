@@ -214,6 +214,21 @@ TEST_F(CamposTest, AnAmountThatTheFocusOnlyTouchedShowsItsPattern) {
     EXPECT_EQ(deQt(v.widget<QLineEdit>("Suma").text()), "0,00");
 }
 
+TEST_F(CamposTest, WhatIsChosenAmongWholeLinesIsToldLikeAList) {
+    auto botones = v.widget("Situacion").findChildren<QAbstractButton*>();
+    ASSERT_EQ(botones.size(), 3);
+    EXPECT_TRUE(botones[0]->isChecked());
+    botones[2]->click();
+    v.asienta();
+    EXPECT_EQ(v.pantalla.Situacion.indice(), 2);
+    EXPECT_EQ(QApplication::focusWidget(), botones[2]);
+    v.tecla(Qt::Key_Up);
+    EXPECT_EQ(v.pantalla.Situacion.indice(), 1);
+    v.pantalla.Situacion.ponIndice(0);
+    EXPECT_TRUE(botones[0]->isChecked());
+    EXPECT_FALSE(botones[1]->isChecked());
+}
+
 // --- Lists and boxes
 
 void ruedaSobre(QWidget& widget) {

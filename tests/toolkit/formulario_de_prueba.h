@@ -34,6 +34,10 @@ class FormularioDePrueba final : public Formulario {
                          .rotulo = "Régimen:",
                          .clase = Clase::Lista,
                          .opciones = {"General", "Autónomos", "Agrario"}})},
+          Situacion{nuevo({.nombre = "Situacion",
+                           .rotulo = "Situación:",
+                           .clase = Clase::Opciones,
+                           .opciones = {"Soltero", "Casado", "Viudo"}})},
           Parcial{nuevo({.nombre = "Parcial",
                          .rotulo = "A tiempo parcial",
                          .clase = Clase::Casilla,
@@ -81,8 +85,8 @@ class FormularioDePrueba final : public Formulario {
     int nuevos = 0, grabados = 0, cierres = 0, doblesPulsaciones = 0;
     std::vector<std::string> fechas;
 
-    Campo &Nombre, &Edad, &Suma, &Clave, &Fecha_, &Escrita, &Regimen, &Parcial, &Horas, &Hijos, &Texto, &Ok,
-        &Mal;
+    Campo &Nombre, &Edad, &Suma, &Clave, &Fecha_, &Escrita, &Regimen, &Situacion, &Parcial, &Horas, &Hijos,
+        &Texto, &Ok, &Mal;
     Campo &BotonNuevo, &BotonGraba, &Siguiente;
 };
 

@@ -103,11 +103,35 @@ TEST_F(PanelesTest, TabGoesThroughTheFieldsThenTheFootThenTheBarAndScrollsToThem
     w.pantalla.Edad.ponTexto("1");
     w.pantalla.Suma.ponTexto("1");
     w.pantalla.Escrita.ponTexto("01-01-2005");
-    for (int i = 0; i < 13; ++i, w.tecla(Qt::Key_Tab)) visitados.push_back(w.foco());
+    for (int i = 0; i < 14; ++i, w.tecla(Qt::Key_Tab)) visitados.push_back(w.foco());
     EXPECT_THAT(visitados,
-                ::testing::ElementsAre("Nombre", "Edad", "Suma", "Clave", "Fecha", "Escrita", "Regimen",
+                ::testing::ElementsAre("Nombre", "Edad", "Suma", "Clave", "Fecha", "Escrita", "Regimen", "",
                                        "Parcial", "Hijos", "Siguiente", "BotonNuevo", "BotonGraba", "Nombre"))
         << "Horas is hidden";
+}
+
+TEST_F(PanelesTest, UpAndDownGoThroughTheRowsOfATable) {
+    Ventana<FormularioDeBases> v{mundo.entorno, mundo.falso.almacen};
+    v.pantalla.enfoca(v.pantalla.campo("Hasta", 2));
+    v.tecla(Qt::Key_Down);
+    EXPECT_EQ(v.foco(), "Hasta3");
+    v.tecla(Qt::Key_Down);
+    EXPECT_EQ(v.foco(), "Hasta3") << "the last row";
+    v.tecla(Qt::Key_Up);
+    v.tecla(Qt::Key_Up);
+    EXPECT_EQ(v.foco(), "Hasta1");
+}
+
+TEST_F(PanelesTest, EnterPressesAButtonAndKeysGiveTheFocusBack) {
+    Ventana<FormularioDePrueba> v{mundo.entorno, mundo.falso.almacen};
+    v.widget("BotonGraba").setFocus();
+    v.asienta();
+    v.tecla(Qt::Key_Return);
+    EXPECT_EQ(v.pantalla.grabados, 1);
+    v.clic("Clave");
+    v.tecla(Qt::Key_G, Qt::ControlModifier);
+    EXPECT_EQ(v.pantalla.grabados, 2);
+    EXPECT_EQ(v.foco(), "Clave");
 }
 
 TEST_F(PanelesTest, ARowThatAppearsMovesNoColumn) {

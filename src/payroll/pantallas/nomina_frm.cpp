@@ -72,7 +72,7 @@ Campo& NominaFrm::numero(std::string nombre, std::string rotulo, DefCampo sitio)
     const RangoNumero& rango = RangoDe(nombre);
     sitio.nombre = std::move(nombre);
     sitio.rotulo = std::move(rotulo);
-    sitio.filtro = TeclaNumero;
+    sitio.contenido = Contenido::Decimal;
     if (sitio.anchura == 0) sitio.anchura = kAnchoNumero;
     sitio.formato = rango.formato;
     sitio.alSalir = [this, &rango](Campo& campo) {
