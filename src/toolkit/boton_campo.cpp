@@ -39,7 +39,13 @@ constexpr std::array kAspectos{
     Aspecto{"Anterior", Dibujo::FlechaIzquierda, "Alt+Left"},
 };
 
+// On screens with a pair for each panel it is the caption that tells them.
+constexpr std::string_view kContinuacion = "(Continuación...)";
+constexpr std::string_view kPantallaAnterior = "(Pantalla Anterior...)";
+
 Aspecto aspectoDe(const Campo& campo) {
+    if (campo.def().rotulo == kContinuacion) return {{}, Dibujo::FlechaDerecha, "Alt+Right"};
+    if (campo.def().rotulo == kPantallaAnterior) return {{}, Dibujo::FlechaIzquierda, "Alt+Left"};
     for (const Aspecto& aspecto : kAspectos) {
         if (campo.def().nombre.ends_with(aspecto.final)) return aspecto;
     }
@@ -115,7 +121,7 @@ Control* botonDeBarra(Campo& campo, Anfitrion& anfitrion, const Aspecto& aspecto
 
 Control* botonConRotulo(Campo& campo, Anfitrion& anfitrion, const Aspecto& aspecto) {
     auto* boton = new BotonCampo<QPushButton>{campo, anfitrion, aspecto};
-    const bool principal = campo.pantalla() == kPie && aspecto.dibujo == Dibujo::FlechaDerecha;
+    const bool principal = aspecto.dibujo == Dibujo::FlechaDerecha;
     boton->setAutoDefault(false);
     boton->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     boton->setProperty(kPropiedadPrincipal, principal);
@@ -128,6 +134,12 @@ Control* botonConRotulo(Campo& campo, Anfitrion& anfitrion, const Aspecto& aspec
 }
 
 }  // namespace
+
+bool esDePaso(const Campo& campo) {
+    if (campo.def().clase != Clase::Boton) return false;
+    const Dibujo dibujo = aspectoDe(campo).dibujo;
+    return dibujo == Dibujo::FlechaDerecha || dibujo == Dibujo::FlechaIzquierda;
+}
 
 Control* nuevoBoton(Campo& campo, Anfitrion& anfitrion) {
     const Aspecto aspecto = aspectoDe(campo);

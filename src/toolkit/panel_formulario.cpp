@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <algorithm>
 
+#include "toolkit/boton_campo.h"
 #include "toolkit/controles.h"
 #include "toolkit/medidas.h"
 #include "toolkit/paleta.h"
@@ -155,7 +156,10 @@ std::vector<PanelFormulario::Bloque> PanelFormulario::bloques(int pantalla) cons
         auto bloque = grupo != nullptr ? std::ranges::find(todos, grupo, &Bloque::grupo)
                                        : todos.end() - (sigueLaSerie ? 1 : 0);
         if (bloque == todos.end()) bloque = todos.insert(bloque, {grupo, {}});
-        if (!campo.def().mismaLinea || bloque->filas.empty()) bloque->filas.emplace_back();
+        const bool sigueElPaso =
+            esDePaso(campo) && !bloque->filas.empty() && esDePaso(*bloque->filas.back().front());
+        const bool mismaFila = (campo.def().mismaLinea && !bloque->filas.empty()) || sigueElPaso;
+        if (!mismaFila) bloque->filas.emplace_back();
         bloque->filas.back().push_back(&campo);
     }
     cuentaLosDeCadaFila(todos);
@@ -248,7 +252,9 @@ void PanelFormulario::reparteEnFilas(QGridLayout& rejilla, const Filas& filas) {
     for (const Fila& campos : filas) {
         const int fila = rejilla.rowCount();
         if (esVeredicto(*campos.front())) continue;
-        if (esAncha(campos.front()->def().clase)) {
+        if (esDePaso(*campos.front())) {
+            ponPasos(rejilla, fila, campos);
+        } else if (esAncha(campos.front()->def().clase)) {
             ponAncha(rejilla, fila, campos);
         } else {
             ponPar(rejilla, fila, 0, campos);
@@ -347,6 +353,17 @@ QLayout* PanelFormulario::bajoSuRotulo(Campo& campo) {
     }
     columna->addWidget(&control.widget());
     return columna;
+}
+
+/// The buttons that go back, at the left, and on, at the right.
+void PanelFormulario::ponPasos(QGridLayout& rejilla, int fila, const Fila& campos) {
+    auto* linea = new QHBoxLayout;
+    linea->addStretch(1);
+    for (Campo* campo : campos) {
+        const bool atras = campo->rotulo().find("Anterior") != std::string::npos;
+        linea->insertWidget(atras ? 0 : linea->count(), &crea(*campo).widget());
+    }
+    rejilla.addLayout(linea, fila, kColRotulo, 1, kColumnasFila);
 }
 
 void PanelFormulario::ponVeredictos(QGridLayout& rejilla, const Filas& filas) {

@@ -50,6 +50,7 @@ class PanelFormulario final : public QWidget {
     /// Kinds that take the whole width: side by side when they share a row, each under its label.
     void ponAncha(QGridLayout& rejilla, int fila, const Fila& campos);
     [[nodiscard]] QLayout* bajoSuRotulo(Campo& campo);
+    void ponPasos(QGridLayout& rejilla, int fila, const Fila& campos);
     void ponVeredictos(QGridLayout& rejilla, const Filas& filas);
     enum class RotuloDelPrimero { Aparte, EnLinea };
     [[nodiscard]] QLayout* enLinea(const Fila& campos, RotuloDelPrimero rotulo);
