@@ -120,7 +120,6 @@ class Sesion {
         [this] { captura("menu", menu_.grab()); },
         [this] { programa_.Opcion(kDesempleo); },
         [] { pulsa("BotonCarga"); },
-        [] { teclea(Qt::Key_Down); },
         [this] { captura("cargar", pintada(ventana(), true)); },
         [] { teclea(Qt::Key_Return); },
         [this] { captura("desempleo-datos", pintada(ventana(), false)); },

@@ -225,6 +225,8 @@ void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
             reparteEnColumnas(*rejilla, filas, def.columnas);
             break;
     }
+    // Beside a taller one its rows stay together at the top.
+    if (def.disposicion != Disposicion::Filas) rejilla->setRowStretch(rejilla->rowCount(), 1);
     refresca(grupo);
 }
 
