@@ -208,11 +208,6 @@ void NominaFrm::declaraConceptos() {
                    },
                .anchura = 2});
     }
-    nuevo({.nombre = "NomiConceptos",
-           .clase = Clase::ListaAbierta,
-           .opciones = listaConceptos_,
-           .alPulsar = [this](Campo& l) { copiaCodigo(l, 2); },
-           .visible = false});
 }
 
 void NominaFrm::declaraIncidencias() {
@@ -256,6 +251,11 @@ void NominaFrm::declaraIncidencias() {
                    },
                .anchura = 3});
     }
+    nuevo({.nombre = "NomiConceptos",
+           .clase = Clase::ListaAbierta,
+           .opciones = listaConceptos_,
+           .alPulsar = [this](Campo& l) { copiaCodigo(l, 2); },
+           .visible = false});
     nuevo({.nombre = "NomiIncidencias",
            .clase = Clase::ListaAbierta,
            .opciones = listaIncidencias_,
