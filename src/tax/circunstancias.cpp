@@ -8,6 +8,7 @@ namespace orvemo::irpf {
 
 namespace {
 
+constexpr int kAnchoGrado = 22;  // characters
 constexpr int kSi = 0;
 constexpr int kPrimeraSituacion = 1;
 constexpr int kGradoMayor = 2;  // the list begins with the highest degree, the record with the lowest
@@ -78,7 +79,8 @@ Circunstancias::Circunstancias(const Declarador& declara, Grupo* importes, Grupo
                                       "Mayor o igual que 33% y menor que 65%, con necesidad de ayuda o "
                                       "movilidad reducida",
                                       "Mayor o igual a 33% y menor que 65%"},
-                         .visible = false})},
+                         .visible = false,
+                         .anchura = kAnchoGrado})},
       CeutaMelilla{
           declara.campo(siONo("CeutaMelilla", "Rentas de Ceuta o Melilla:", declara.pantalla, persona))},
       Movil{declara.campo(siONo("Movil", "Movilidad geográfica:", declara.pantalla, persona))},

@@ -13,6 +13,7 @@ namespace orvemo::irpf {
 
 namespace {
 
+constexpr int kAnchoLista = 20;  // characters; both lists stand side by side
 constexpr int kPrimerAnio = 1900;
 constexpr int kUltimoAnio = 9999;
 constexpr const char* kPersonasQueConviven = "El número de personas que conviven debe estar entre 1 y 9";
@@ -149,7 +150,8 @@ DefCampo discapacidad(const char* nombre, int pantalla, Grupo& grupo) {
             .clase = Clase::Lista,
             .pantalla = pantalla,
             .grupo = &grupo,
-            .opciones = kDiscapacidades};
+            .opciones = kDiscapacidades,
+            .anchura = kAnchoLista};
 }
 
 }  // namespace

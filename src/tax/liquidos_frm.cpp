@@ -15,6 +15,8 @@ namespace {
 
 enum Panel { kDatos, kResultado };
 
+constexpr int kAnchoGrupo = 24;  // characters
+
 // The blanks behind some of the groups are part of their names.
 const std::vector<std::string> kCategorias{
     "1. Ingenieros y licenciados",
@@ -44,7 +46,8 @@ LiquidosFrm::LiquidosFrm(Entorno& entorno)
       FrmSalario{nuevoGrupo({.nombre = "FrmSalario"})},
       FrmPersona{nuevoGrupo({.nombre = "FrmPersona", .alLado = true})},
       FrmFamilia{nuevoGrupo({.nombre = "FrmFamilia"})},
-      NomiCategoria{nuevo(deGrupo(lista("NomiCategoria", "Grupo de Cotización:", kCategorias), FrmSalario))},
+      NomiCategoria{nuevo(conAnchura(
+          deGrupo(lista("NomiCategoria", "Grupo de Cotización:", kCategorias), FrmSalario), kAnchoGrupo))},
       TipoContrato{
           nuevo(deGrupo(lista("TipoContrato", "Tipo de contrato:",
                               {"Contrato indefinido", "Duración Determinada", "Sin cuota del trabajador"}),

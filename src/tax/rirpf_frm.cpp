@@ -17,6 +17,7 @@ enum Panel { kDatos, kFamiliares, kRegularizacion };
 
 constexpr std::size_t kLargoNombre = 80;
 constexpr std::size_t kLargoNIF = 9;
+constexpr int kAnchoTextos = 24;  // characters: the amounts stand at their right
 
 const std::vector<std::string> kTiposContrato{"General", "Duración inferior al año y peonadas",
                                               "Relación laboral de carácter especial"};
@@ -68,11 +69,15 @@ RetIrpfFrm::RetIrpfFrm(Entorno& entorno)
       FrmPersona{nuevoGrupo({.nombre = "FrmPersona"})},
       FrmImportes{nuevoGrupo({.nombre = "FrmImportes", .alLado = true})},
       FrmFamilia{nuevoGrupo({.nombre = "FrmFamilia"})},
-      Nombre{nuevo(
-          {.nombre = "Nombre", .rotulo = "Nombre completo:", .grupo = &FrmPersona, .largo = kLargoNombre})},
+      Nombre{nuevo({.nombre = "Nombre",
+                    .rotulo = "Nombre completo:",
+                    .grupo = &FrmPersona,
+                    .largo = kLargoNombre,
+                    .anchura = kAnchoTextos})},
       NIF{nuevo(nif("NIF", "NIF:", FrmPersona))},
       AnioNacimiento{nuevo(deGrupo(entero("AñoNacimiento", "Año de nacimiento:", {}), FrmPersona))},
-      TipoContrato{nuevo(deGrupo(lista("TipoContrato", "Tipo de contrato:", kTiposContrato), FrmPersona))},
+      TipoContrato{nuevo(conAnchura(
+          deGrupo(lista("TipoContrato", "Tipo de contrato:", kTiposContrato), FrmPersona), kAnchoTextos))},
       SituacionLaboral{
           nuevo(deGrupo(lista("SituacionLaboral", "Situación laboral:",
                               {irpf::kSituacionesLaborales.begin(), irpf::kSituacionesLaborales.end()}),
@@ -97,6 +102,7 @@ RetIrpfFrm::RetIrpfFrm(Entorno& entorno)
       RetencionAcumulada{importe("RetencionAcumulada", "Ret. Acumulada/Ingresos Cta.:", FrmRegularizacion)},
       BaseA{importe("BaseA", "Base retención anterior:", FrmRegularizacion, "0.00")},
       TipoA{nuevo(deGrupo(entero("TipoA", "Tipo anterior:", {}), FrmRegularizacion))} {
+    ponPanel(kDatos, {.denso = true});
     enlazaCampos();
 }
 
