@@ -97,6 +97,7 @@ LiquidosFrm::LiquidosFrm(Entorno& entorno)
     familiares.enlaza(enlaces_);
     ponNumPantallas(2);
     ponPanel(kDatos, {.denso = true});
+    ponPanel(kResultado, {.denso = true});
     ponTitulos("CONVERSIÓN DE LÍQUIDOS EN BRUTOS", "Conversión de Salarios Líquidos en Brutos");
 }
 
