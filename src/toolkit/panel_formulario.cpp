@@ -166,16 +166,19 @@ std::vector<PanelFormulario::Bloque> PanelFormulario::bloques(int pantalla) cons
     return todos;
 }
 
+/// Fields without a group that are declared between two groups part them from one another no more than they
+/// would anywhere else.
 void PanelFormulario::cuentaLosDeCadaFila(std::vector<Bloque>& bloques) {
-    const auto empiezaFila = [](const Bloque& b) { return b.grupo == nullptr || !b.grupo->def().alLado; };
-    for (auto primero = bloques.begin(); primero != bloques.end();) {
-        const auto fin = std::find_if(std::next(primero), bloques.end(), empiezaFila);
-        const auto enFila = static_cast<int>(fin - primero);
-        for (; primero != fin; ++primero) primero->enFila = enFila;
+    std::vector<Bloque*> fila;
+    for (Bloque& bloque : bloques) {
+        if (bloque.grupo == nullptr) continue;
+        if (!bloque.grupo->def().alLado) fila.clear();
+        fila.push_back(&bloque);
+        for (Bloque* junto : fila) junto->enFila = static_cast<int>(fila.size());
     }
 }
 
-/// A block stands below the one before it, or at its right.
+/// A group stands below what is before it, or at the right of the group before it.
 void PanelFormulario::coloca(QWidget* marco, bool alLado) {
     if (!alLado || fila_ == nullptr) {
         fila_ = new QHBoxLayout;
@@ -198,7 +201,7 @@ void PanelFormulario::agregaSueltos(const Filas& filas) {
     auto* marco = new QWidget{this};
     auto* rejilla = nuevaRejilla(marco);
     rejilla->setContentsMargins(0, 0, 0, 0);
-    coloca(marco, false);
+    layout()->addWidget(marco);
     reparteEnFilas(*rejilla, filas);
     alineadas_.push_back(rejilla);
 }
