@@ -3,10 +3,13 @@
 #include <utility>
 
 #include "foundations/frame/declaraciones.h"
+#include "foundations/values/formatos.h"
 #include "payroll/conceptos/conceptos.h"
 #include "payroll/finiquito/causas.h"
 #include "payroll/pantallas/paneles.h"
 #include "payroll/validaciones/rangos.h"
+#include "tax/liquidos_frm.h"
+#include "tax/rirpf_frm.h"
 
 namespace orvemo {
 
@@ -166,6 +169,16 @@ void NominaFrm::declaraContrato() {
         numero("NomiPagaExtra", "pagas de (Mensuales)", {.indice = fila, .grupo = &g, .defecto = "0"});
     }
     numero("NomiIRPFExtra", "% IRPF:", {.grupo = &g, .defecto = "0"});
+    nuevo({.nombre = "BotonIRPF",
+           .rotulo = "Cálculo %IRPF",
+           .clase = Clase::Boton,
+           .alPulsar = [this](Campo&) { calculaIRPF(); },
+           .ayuda = "Utilidad para calcular el % de retención a cuenta del IRPF"});
+    nuevo({.nombre = "BotonLiquidos",
+           .rotulo = "Conversión de líquidos en brutos",
+           .clase = Clase::Boton,
+           .alPulsar = [this](Campo&) { convierteLiquidos(); },
+           .mismaLinea = true});
 }
 
 void NominaFrm::declaraConceptos() {
@@ -414,6 +427,19 @@ void NominaFrm::declaraPeriodo(std::pair<const char*, const char*> nombres, Grup
            .alSalir = [this, primera, indice](Campo& c) {
                aplica(c, CompruebaFechaPeriodo2(c.texto(), campo(primera, indice).texto()));
            }});
+}
+
+/// The percentage comes back, if one was worked out.
+void NominaFrm::calculaIRPF() {
+    RetIrpfFrm retenciones{entorno()};
+    abreModal(retenciones);
+    if (!retenciones.resultado()) return;
+    campo("NomiIRPFExtra").ponTexto(TextoPlano(retenciones.resultado()->TipoRetencion));
+}
+
+void NominaFrm::convierteLiquidos() {
+    LiquidosFrm liquidos{entorno()};
+    abreModal(liquidos);
 }
 
 }  // namespace orvemo

@@ -52,6 +52,8 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     // --- Declaration
     void declaraContrato();
     void declaraConceptos();
+    void calculaIRPF();
+    void convierteLiquidos();
     void declaraIncidencias();
     void declaraExtraYParcial();
     void declaraBaja();
