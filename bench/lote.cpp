@@ -1,4 +1,5 @@
-// A case of the batch, from its record to its line of JSON, beside its bare calculation and snprintf of that line.
+// A case of the batch, from its record to its line of JSON, beside its bare calculation and snprintf of that
+// line.
 
 #include <benchmark/benchmark.h>
 
@@ -45,10 +46,8 @@ class Fichero {
 
 void porLotes(benchmark::State& estado, const char* calculadora, const std::string& registro) {
     const Fichero fichero{registro};
-    const lote::Opciones opciones{.calculadora = calculadora,
-                                  .fichero = fichero.ruta(),
-                                  .hoy = FechaDMA(15, 6, 2005),
-                                  .json = true};
+    const lote::Opciones opciones{
+        .calculadora = calculadora, .fichero = fichero.ruta(), .hoy = FechaDMA(15, 6, 2005), .json = true};
     for (auto _ : estado) {
         std::ostringstream salida, errores;
         if (ejecuta(opciones, CalculadorasDelPrograma(), ORVEMO_DATOS, salida, errores) != 0) std::abort();
@@ -82,13 +81,14 @@ void Desempleo_calculo_y_snprintf(benchmark::State& estado) {
     for (auto _ : estado) {
         Dictamen dictamen;
         CalculaDesempleo(caso, dictamen);
-        std::snprintf(linea, sizeof linea,
-                      "{\"registro\":%d,\"supuesto\":\"%s\",\"nombre\":\"%s\",\"derecho\":%s,\"conclusion\":\"%s\","
-                      "\"campos\":{\"Edad\":%d,\"Fecha\":\"%s\",\"fIni\":\"%s\",\"Suma\":%.17g,\"Dias\":%d,"
-                      "\"Hijos\":%d,\"Horas\":%d,\"Parcial\":%d}}\n",
-                      1, "Dos años cotizados, un hijo", "Elena Prado Ribas",
-                      dictamen.ConDerecho ? "true" : "false", dictamen.Conclusion().c_str(), caso.Edad,
-                      "2005-06-13", "2005-06-06", caso.Suma, caso.Dias, caso.Hijos, caso.Horas, caso.Parcial);
+        std::snprintf(
+            linea, sizeof linea,
+            "{\"registro\":%d,\"supuesto\":\"%s\",\"nombre\":\"%s\",\"derecho\":%s,\"conclusion\":\"%s\","
+            "\"campos\":{\"Edad\":%d,\"Fecha\":\"%s\",\"fIni\":\"%s\",\"Suma\":%.17g,\"Dias\":%d,"
+            "\"Hijos\":%d,\"Horas\":%d,\"Parcial\":%d}}\n",
+            1, "Dos años cotizados, un hijo", "Elena Prado Ribas", dictamen.ConDerecho ? "true" : "false",
+            dictamen.Conclusion().c_str(), caso.Edad, "2005-06-13", "2005-06-06", caso.Suma, caso.Dias,
+            caso.Hijos, caso.Horas, caso.Parcial);
         benchmark::DoNotOptimize(linea);
     }
     estado.SetItemsProcessed(estado.iterations());
@@ -123,10 +123,12 @@ void Jubilacion_calculo_y_snprintf(benchmark::State& estado) {
     for (auto _ : estado) {
         Dictamen dictamen;
         CalculaJubilacion(caso, tablas, FechaDMA(15, 6, 2005), dictamen);
-        int largo = std::snprintf(linea, sizeof linea, "{\"registro\":%d,\"derecho\":%s,\"conclusion\":\"%s\",\"JubiBase\":[", 1,
+        int largo = std::snprintf(linea, sizeof linea,
+                                  "{\"registro\":%d,\"derecho\":%s,\"conclusion\":\"%s\",\"JubiBase\":[", 1,
                                   dictamen.ConDerecho ? "true" : "false", dictamen.Conclusion().c_str());
         for (const double base : caso.JubiBase)
-            largo += std::snprintf(linea + largo, sizeof linea - static_cast<std::size_t>(largo), "%.17g,", base);
+            largo +=
+                std::snprintf(linea + largo, sizeof linea - static_cast<std::size_t>(largo), "%.17g,", base);
         benchmark::DoNotOptimize(linea);
     }
     estado.SetItemsProcessed(estado.iterations());

@@ -15,7 +15,7 @@ inline constexpr QColor kColorBorde{0xC9, 0xD1, 0xD9};
 inline constexpr QColor kColorBordeControl{0x82, 0x8F, 0x9C};
 inline constexpr QColor kColorTexto{0x1F, 0x29, 0x33};
 inline constexpr QColor kColorTextoSecundario{0x52, 0x60, 0x6D};
-inline constexpr QColor kColorTextoInactivo{0x6B, 0x78, 0x85};
+inline constexpr QColor kColorTextoInactivo{0x64, 0x71, 0x7E};
 inline constexpr QColor kColorAcento{0x2B, 0x5C, 0x8A};
 inline constexpr QColor kColorAcentoClaro{0x3A, 0x70, 0xA3};
 inline constexpr QColor kColorAcentoOscuro{0x22, 0x4B, 0x72};

@@ -72,10 +72,13 @@ TEST_F(RiesgoEmbarazoTest, TheMonthOfJoiningIsTheSameMonthOfTheSameYear) {
         const char* texto;
         bool mismoMes;
     } filas[] = {
-        {frm.f1, "01-07-2005", false},    {frm.fAlta, "31-07-2005", true},
-        {frm.fAlta, "31-07-2004", false}, {frm.fAlta, "ayer", false},
+        {frm.f1, "01-07-2005", false},
+        {frm.fAlta, "31-07-2005", true},
+        {frm.fAlta, "31-07-2004", false},
+        {frm.fAlta, "ayer", false},
         {frm.f1, "", true},  // both unreadable: 01-01-1900
-        {frm.f1, "31-01-1900", true},     {frm.f1, "01-02-1900", false},
+        {frm.f1, "31-01-1900", true},
+        {frm.f1, "01-02-1900", false},
     };
     for (const auto& fila : filas) {
         rellena(fila.fecha, fila.texto);

@@ -132,7 +132,7 @@ TEST(EscriturasFallidas, AProgramThatEndsAtAnyByteLeavesTheOldRecordOrTheNew) {
     }
 }
 
-TEST(EscriturasFallidas, AJournalTouchesNoOtherFilePutInThePlaceOfItsOwn) {
+TEST(EscriturasFallidas, AJournalTouchesNoOtherFileInsteadOfItsOwn) {
     FicheroDePrueba prueba;
     prueba.bytes() = kTres;
     prueba.almacen.averia = {.bytes = kLongitud + 100, .mortal = true};

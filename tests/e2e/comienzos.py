@@ -5,10 +5,12 @@ import random
 import desempleo
 import menu
 from escritorio import cuenta
-from usuario import ERROR, Programa, espera_ventana, pulsa
+from usuario import CONFIRMACION, ERROR, Programa, espera_ventana, pulsa
 
 SIN_PORTADA = 'El programa no puede empezar: el fichero "portada.bmp" no se puede usar (no existe).'
 NO_SE_GRABA = 'No se ha podido completar la operación: el fichero "desemp.nom" no se puede usar (no hay permiso).'
+
+DESCARTA = "¿Desea descartar los datos del supuesto?"
 
 
 def sin_portada(escritorio):
@@ -29,6 +31,7 @@ def config_de_basura(escritorio):
 
 def solo_lectura(escritorio):
     """In a directory that can't be written cases are computed and printed; saving tells why it can't."""
+    (escritorio.aplicacion / "desemp.nom").chmod(0o444)
     escritorio.aplicacion.chmod(0o555)
     with Programa(escritorio.aplicacion) as programa:
         desempleo.abre(programa)
@@ -40,7 +43,9 @@ def solo_lectura(escritorio):
         programa.responde(ERROR, NO_SE_GRABA, "Return")
         espera_ventana(desempleo.PANTALLA)
         assert desempleo.imprime(programa, escritorio.carpeta / "informe.pdf") == desempleo.INFORME
-        desempleo.vuelve_al_menu()
+        pulsa("ctrl+w")
+        programa.responde(CONFIRMACION, DESCARTA, "alt+s")  # it could not be saved
+        espera_ventana(menu.MENU)
         menu.abandona(programa)
 
 

@@ -46,9 +46,14 @@ def ventana_con_teclado():
     return _xdotool("getwindowfocus", "getwindowname")
 
 
+def _es(ventana, titulo):
+    """Whether a window bears the title; that of a calculator is followed by the name of its case."""
+    return ventana == titulo or ventana.startswith(f"{titulo} - ")
+
+
 def espera_ventana(titulo):
     """Waits until the window of this title has the keyboard."""
-    espera(f"the keyboard in «{titulo}»", lambda: ventana_con_teclado() == titulo)
+    espera(f"the keyboard in «{titulo}»", lambda: _es(ventana_con_teclado(), titulo))
 
 
 # --- The program

@@ -40,11 +40,11 @@ struct Historia {
 
 /// What is known of one field.
 struct Ficha {
-    Asignacion campo{};     ///< and the value of a new case; "hoy" is today's date
+    Asignacion campo{};  ///< and the value of a new case; "hoy" is today's date
     std::string rotulo{};
     std::string limites{};  ///< "1 a 99", "50 letras", the entries of a list "uno / otro", or nothing
     std::vector<std::vector<Asignacion>> seVe{};  ///< any of these choices brings it on view; none: always
-    bool deEntrada = false;                     ///< on view in a new case all the same
+    bool deEntrada = false;                       ///< on view in a new case all the same
 };
 
 /// The stories and the cards of one calculator.
@@ -52,7 +52,7 @@ struct Documento {
     std::string calculadora{};
     Fecha hoy{};
     std::vector<std::string> ventana{};  ///< title, caption, case file and the subtitles of the panels
-    bool basesFuturas = false;         ///< the switch `VerBaseActual`
+    bool basesFuturas = false;           ///< the switch `VerBaseActual`
     std::vector<Ficha> fichas{};
     std::vector<Historia> historias{};
 };
@@ -60,11 +60,11 @@ struct Documento {
 /// Reads a document; a line that isn't understood throws std::runtime_error with its number.
 ///
 /// Lines at the margin open a section ("calculadora", "hoy", "ventana", "frase", "siempre", "fichas",
-/// "historia"), indented ones belong to it. In a story "Campo = valor" fills a field in ("siempre" holds those
-/// of every story), "| texto" is a line of the conclusions and "+ frase uno / otro" a sentence named before,
-/// its $1 and $2 replaced; a "\" at the end stands for no line end and "\s" for a blank. "mensaje ", ": " and
-/// "en POSICION TIPO VALOR" tell boxes, printed lines and bytes; a case that
-/// can't be saved says "sin guardar".
+/// "historia"), indented ones belong to it. In a story "Campo = valor" fills a field in ("siempre" holds
+/// those of every story), "| texto" is a line of the conclusions and "+ frase uno / otro" a sentence named
+/// before, its $1 and $2 replaced; a "\" at the end stands for no line end and "\s" for a blank. "mensaje ",
+/// ": " and "en POSICION TIPO VALOR" tell boxes, printed lines and bytes; a case that can't be saved says
+/// "sin guardar".
 [[nodiscard]] Documento leeDocumento(const std::filesystem::path& ruta);
 
 }  // namespace orvemo::pruebas

@@ -37,8 +37,7 @@ class Usuario {
         mundo.almacen["ipc.txt"] = ipcPlano();
         mundo.valores.VerBaseActual = documento.basesFuturas;
         const Calculadoras catalogo = CalculadorasDelPrograma();
-        const auto entrada =
-            std::ranges::find(catalogo, documento.calculadora, &EntradaCatalogo::clave);
+        const auto entrada = std::ranges::find(catalogo, documento.calculadora, &EntradaCatalogo::clave);
         if (entrada == catalogo.end()) throw std::runtime_error{"no calculator " + documento.calculadora};
         calculadora_ = entrada->registro.abre(mundo.entorno);
         frm().ponVista(&vista);
@@ -179,7 +178,8 @@ void compruebaLimites(Usuario& usuario, Campo& campo, const std::string& limites
     const auto letras = limites.find(" letras");
     if (limites.find(" / ") != std::string::npos) {
         std::string opciones;
-        for (const std::string& opcion : campo.opciones()) opciones += (opciones.empty() ? "" : " / ") + opcion;
+        for (const std::string& opcion : campo.opciones())
+            opciones += (opciones.empty() ? "" : " / ") + opcion;
         EXPECT_EQ(opciones, limites);
     } else if (letras != std::string::npos) {
         const auto largo = static_cast<std::size_t>(LeeEnteroRegional(limites.substr(0, letras)));
@@ -189,8 +189,8 @@ void compruebaLimites(Usuario& usuario, Campo& campo, const std::string& limites
         const std::string minimo = limites.substr(0, a), maximo = limites.substr(a + 3);
         std::string tope = maximo;
         std::erase(tope, ',');
-        const std::string aviso = "Error: El número no es correcto. Debe introducir un número entre " +
-                                  minimo + " y " + maximo;
+        const std::string aviso =
+            "Error: El número no es correcto. Debe introducir un número entre " + minimo + " y " + maximo;
         // The limits of eight figures are judged in single precision.
         const double encima = LeeNumero(tope) + (tope.size() > 7 ? 100 : 1);
         EXPECT_EQ(usuario.escribeYDeja(campo, TextoPlano(encima)), aviso);
@@ -222,7 +222,8 @@ void compruebaFicha(const Documento& documento, const Ficha& ficha) {
         usuario.frm().foco(usuario.frm().Siguiente);
         Campo& suyo = usuario.campo(ficha.campo);
         EXPECT_TRUE(suyo.visible()) << "with " << como;
-        if (suyo.visible() && &condiciones == &ficha.seVe.front()) compruebaLimites(usuario, suyo, ficha.limites);
+        if (suyo.visible() && &condiciones == &ficha.seVe.front())
+            compruebaLimites(usuario, suyo, ficha.limites);
     }
 }
 
@@ -265,8 +266,7 @@ TEST_P(Historias, EachFieldIsAsItsCardTells) {
 
 INSTANTIATE_TEST_SUITE_P(Todas, Historias,
                          testing::Values("jubilacion", "desempleo", "it", "maternidad", "riesgo",
-                                         "nocontributiva", "familiar", "capital", "incapacidad",
-                                         "muerte"),
+                                         "nocontributiva", "familiar", "capital", "incapacidad", "muerte"),
                          [](const auto& documento) { return documento.param; });
 
 }  // namespace

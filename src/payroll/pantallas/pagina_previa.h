@@ -21,7 +21,9 @@ class PaginaPrevia final : public DestinoImpresion {
     void CurrentY(float y) override { destino_.CurrentY(y); }
     [[nodiscard]] const Fuente& Font() const override { return destino_.Font(); }
     void Font(const Fuente& fuente) override { destino_.Font(fuente); }
-    [[nodiscard]] double TextWidth(std::string_view texto) const override { return destino_.TextWidth(texto); }
+    [[nodiscard]] double TextWidth(std::string_view texto) const override {
+        return destino_.TextWidth(texto);
+    }
     void Print(std::string_view texto, bool finDeLinea) override { destino_.Print(texto, finDeLinea); }
     void Line(double x1, double y1, double x2, double y2) override { destino_.Line(x1, y1, x2, y2); }
     void Caja(double x1, double y1, double x2, double y2) override { destino_.Caja(x1, y1, x2, y2); }
