@@ -45,7 +45,7 @@ void CargaValor(Campo& campo, const Texto<N>& miembro) {
     campo.ponTexto(miembro.utf8());
 }
 template <typename Numero>
-    requires std::is_arithmetic_v<Numero>
+requires std::is_arithmetic_v<Numero>
 void CargaValor(Campo& campo, Numero miembro) {
     if (campo.def().clase == Clase::Lista) {
         campo.ponIndice(static_cast<int>(miembro));
@@ -59,22 +59,21 @@ void CargaValor(Campo& campo, Numero miembro) {
 /// Ties a field to what `miembro` gives of a record.
 template <typename Miembro>
 [[nodiscard]] Enlace Enlaza(Campo& campo, Miembro miembro) {
-    return {.toma = [&campo, miembro](RegistroNomina& registro) { TomaValor(campo, miembro(registro)); },
-            .carga = [&campo, miembro](const RegistroNomina& registro) {
-                CargaValor(campo, miembro(registro));
-            }};
+    return {
+        .toma = [&campo, miembro](RegistroNomina& registro) { TomaValor(campo, miembro(registro)); },
+        .carga = [&campo, miembro](const RegistroNomina& registro) { CargaValor(campo, miembro(registro)); }};
 }
 
 /// Ties a field to a member of the record.
 template <typename T>
 [[nodiscard]] Enlace Enlaza(Campo& campo, T RegistroNomina::*miembro) {
-    return Enlaza(campo, [miembro](auto& registro) -> auto& { return registro.*miembro; });
+    return Enlaza(campo, [miembro](auto& registro) -> decltype(auto) { return (registro.*miembro); });
 }
 
 /// Ties a field to an element of an array of the record.
 template <typename T, std::size_t N>
 [[nodiscard]] Enlace Enlaza(Campo& campo, std::array<T, N> RegistroNomina::*miembro, std::size_t i) {
-    return Enlaza(campo, [miembro, i](auto& registro) -> auto& { return (registro.*miembro)[i]; });
+    return Enlaza(campo, [miembro, i](auto& registro) -> decltype(auto) { return ((registro.*miembro)[i]); });
 }
 
 }  // namespace orvemo::nomina
