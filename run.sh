@@ -34,6 +34,11 @@ calcula_ejemplos() {
         printf '\n=== %s: %s\n\n' "$calculadora" "$ejemplos"
         case $calculadora in
             capital) calcula_capitales "$destino/$ejemplos" || estado=1 ;;
+            irpf)
+                lote irpf "$destino/$ejemplos" || estado=1
+                printf '\n=== liquidos: %s\n\n' "$ejemplos"
+                lote liquidos "$destino/$ejemplos" --neto 1000 --extra 2 --grupo 1 --contrato 0 || estado=1
+                ;;
             *) lote "$calculadora" "$destino/$ejemplos" || estado=1 ;;
         esac
     done < <("$destino/orvemo-lote" --lista)
