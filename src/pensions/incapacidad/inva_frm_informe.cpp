@@ -52,7 +52,7 @@ void InvaFrm::imprimeMarcas(Informe& informe) const {
 
 void InvaFrm::imprimeBases(Informe& informe) const {
     if (!InvaBasesDesglosadas.marcado()) {
-        informe.linea(InvaSumaBases.rotulo() + ": " + numeroDe(InvaSumaBases, kPatronImporte));
+        informe.linea(InvaSumaBases.rotulo() + ":" + numeroDe(InvaSumaBases, kPatronImporte));
         return;
     }
     informe.linea("$SBases de cotización de los últimos " + TextoPlano(bases_.meses()) + " meses:$s");
