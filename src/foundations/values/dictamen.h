@@ -42,7 +42,7 @@ class Dictamen {
     void agrega(std::integral auto numero) {
         char cifras[24];
         const auto fin = std::to_chars(cifras, cifras + sizeof cifras, numero);
-        conclusion_.append(cifras, fin.ptr);
+        agrega(std::string_view{cifras, fin.ptr});
     }
 
     std::string conclusion_;
