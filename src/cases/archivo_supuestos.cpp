@@ -36,11 +36,12 @@ template <typename Condicion>
 std::optional<int> buscaCabecera(FicheroAleatorio& fichero, std::size_t longitud, int registros,
                                  const Condicion& cumple) {
     const int porZancada = static_cast<int>(std::max<std::size_t>(kZancada / longitud, 1));
-    std::string bytes;
+    std::string bytes(static_cast<std::size_t>(std::min(porZancada, registros)) * longitud, '\0');
     for (int primero = 1; primero <= registros; primero += porZancada) {
         const int cuantos = std::min(porZancada, registros - primero + 1);
-        bytes.assign(static_cast<std::size_t>(cuantos) * longitud, '\0');
-        fichero.lee(static_cast<std::uint64_t>(primero - 1) * longitud, bytes);
+        bytes.resize(static_cast<std::size_t>(cuantos) * longitud);
+        const std::size_t leidos = fichero.lee(static_cast<std::uint64_t>(primero - 1) * longitud, bytes);
+        std::fill(bytes.begin() + static_cast<std::ptrdiff_t>(leidos), bytes.end(), '\0');
         for (std::size_t i = 0; i < static_cast<std::size_t>(cuantos); ++i) {
             const int r = primero + static_cast<int>(i);
             if (cumple(r, std::string_view{bytes}.substr(i * longitud, kAnchoCabecera))) return r;

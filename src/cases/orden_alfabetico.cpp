@@ -67,30 +67,53 @@ constexpr Pesos tablaDePesos() {
 }
 constexpr Pesos kPesos = tablaDePesos();
 
-void agregaClave(std::string& claves, std::string_view nombre) {
-    for (const char c : A1252(nombre)) {
-        const Peso peso = kPesos[lugar(c)];
-        claves += peso.primero;
-        if (peso.segundo != '\0') claves += peso.segundo;
-    }
+/// Writes what a character of Windows-1252 adds to a key; gives the key's new end.
+char* escribePeso(char* fin, char c) {
+    const Peso peso = kPesos[lugar(c)];
+    *fin++ = peso.primero;
+    if (peso.segundo != '\0') *fin++ = peso.segundo;
+    return fin;
 }
 
-/// The first places of a key as one number: many names already differ there.
-std::uint64_t principioDe(std::string_view clave) {
-    std::uint64_t principio = 0;
-    for (std::size_t i = 0; i < sizeof principio; ++i)
-        principio = principio << 8U | (i < clave.size() ? lugar(clave[i]) : 0U);
-    return principio;
+/// The bytes that the key of a name takes at most.
+std::size_t anchoDeClave(const EntradaSupuesto& entrada) {
+    return 2 * entrada.nombre.size();
+}
+
+/// Writes what a character beyond ASCII adds to a key; those of Latin-1 have its byte in Windows-1252 too.
+char* escribeAjeno(char* fin, std::string_view nombre, std::size_t& pos) {
+    const std::size_t inicio = pos;
+    const char32_t caracter = SiguienteCaracter(nombre, pos);
+    if (caracter >= 0xA0 && caracter <= 0xFF) return escribePeso(fin, static_cast<char>(caracter));
+    for (const char c : A1252(nombre.substr(inicio, pos - inicio))) fin = escribePeso(fin, c);
+    return fin;
+}
+
+/// Writes the key of a name; gives its end.
+char* escribeClave(char* fin, std::string_view nombre) {
+    for (std::size_t pos = 0; pos < nombre.size();)
+        fin = lugar(nombre[pos]) < 0x80 ? escribePeso(fin, nombre[pos++]) : escribeAjeno(fin, nombre, pos);
+    return fin;
+}
+
+/// Some places of a key, from one on, as a number: most names already differ in their first sixteen.
+std::uint64_t lugaresDe(std::string_view clave, std::size_t desde) {
+    std::uint64_t lugares = 0;
+    for (std::size_t i = desde; i < desde + sizeof lugares; ++i)
+        lugares = lugares << 8U | (i < clave.size() ? lugar(clave[i]) : 0U);
+    return lugares;
 }
 
 /// A name's place in the list; its key is made once and not at every comparison.
 struct Ficha {
     std::uint64_t principio;
+    std::uint64_t siguiente;
     std::string_view clave;
     EntradaSupuesto* entrada;
 
     friend bool operator<(const Ficha& a, const Ficha& b) {
         if (a.principio != b.principio) return a.principio < b.principio;
+        if (a.siguiente != b.siguiente) return a.siguiente < b.siguiente;
         return std::is_lt(std::tie(a.clave, a.entrada->nombre, a.entrada->registro) <=>
                           std::tie(b.clave, b.entrada->nombre, b.entrada->registro));
     }
@@ -98,18 +121,17 @@ struct Ficha {
 
 /// The names with their keys, which lie one after another in `claves`.
 std::vector<Ficha> fichasDe(std::vector<EntradaSupuesto>& lista, std::string& claves) {
-    std::vector<std::size_t> finales;
-    finales.reserve(lista.size());
-    for (const EntradaSupuesto& entrada : lista) {
-        agregaClave(claves, entrada.nombre);
-        finales.push_back(claves.size());
-    }
+    std::size_t ancho = 0;
+    for (const EntradaSupuesto& entrada : lista) ancho += anchoDeClave(entrada);
+    claves.resize(ancho);
     std::vector<Ficha> fichas;
     fichas.reserve(lista.size());
-    std::size_t inicio = 0;
-    for (std::size_t i = 0; i < lista.size(); inicio = finales[i++]) {
-        const auto clave = std::string_view{claves}.substr(inicio, finales[i] - inicio);
-        fichas.push_back({principioDe(clave), clave, &lista[i]});
+    char* inicio = claves.data();
+    for (EntradaSupuesto& entrada : lista) {
+        char* const fin = escribeClave(inicio, entrada.nombre);
+        const std::string_view clave{inicio, fin};
+        fichas.push_back({lugaresDe(clave, 0), lugaresDe(clave, sizeof(std::uint64_t)), clave, &entrada});
+        inicio = fin;
     }
     return fichas;
 }

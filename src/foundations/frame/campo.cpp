@@ -66,7 +66,8 @@ void Campo::refresca() const {
 }
 
 void Campo::ponTexto(std::string texto) {
-    if (def_.largo > 0) texto = PrimerosCaracteres(texto, def_.largo);
+    if (def_.largo > 0 && texto.size() > def_.largo)
+        texto.resize(PrimerosCaracteres(texto, def_.largo).size());
     if (esFecha()) estado_.fechaAsentada = texto;
     if (texto == estado_.texto) return;
     estado_.texto = std::move(texto);

@@ -1,19 +1,41 @@
 #include "foundations/values/decimal.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <string_view>
 
 namespace orvemo {
 
-Decimal::Decimal(double valor, int cifras) : cuantas_{cifras}, negativo_{valor < 0} {
-    char texto[kCifrasSignificativas + 8];  // d.dddddddddddddde-308
-    const auto fin = std::to_chars(texto, texto + sizeof texto, std::abs(valor),
-                                   std::chars_format::scientific, cifras - 1);
-    cifras_[0] = texto[0];
-    std::copy_n(texto + 2, cifras - 1, cifras_.begin() + 1);
-    const char* exponente = texto + cifras + 2;  // behind the "e"
-    std::from_chars(exponente + (*exponente == '+' ? 1 : 0), fin.ptr, exponente_);
+namespace {
+
+/// Room for d.dddddddddddddddde-308, its longest form.
+using Cientifico = std::array<char, 32>;
+
+/// The digits of a number in scientific form, as few as tell it apart, and at most so many. As few are
+/// quicker, and up to fifteen they are those that rounding gives: but for numbers too small to have them.
+std::string_view escribe(double valor, int cifras, Cientifico& texto) {
+    char* const fin = texto.data() + texto.size();
+    const auto breve = std::to_chars(texto.data(), fin, valor, std::chars_format::scientific);
+    const std::string_view escrito{texto.data(), breve.ptr};
+    const auto mantisa = static_cast<int>(escrito.find('e'));
+    const bool bastan = mantisa <= cifras + 1 && (valor == 0 || std::isnormal(valor));
+    if (bastan) return escrito;
+    const auto justo = std::to_chars(texto.data(), fin, valor, std::chars_format::scientific, cifras - 1);
+    return {texto.data(), justo.ptr};
+}
+
+}  // namespace
+
+Decimal::Decimal(double valor, int cifras) : cuantas_{0}, negativo_{valor < 0} {
+    Cientifico texto;
+    const std::string_view escrito = escribe(std::abs(valor), cifras, texto);
+    std::size_t i = 0;
+    for (; escrito[i] != 'e'; ++i)
+        if (escrito[i] != '.') cifras_[static_cast<std::size_t>(cuantas_++)] = escrito[i];
+    const std::string_view exponente = escrito.substr(escrito[i + 1] == '+' ? i + 2 : i + 1);
+    std::from_chars(exponente.data(), exponente.data() + exponente.size(), exponente_);
     quitaCerosFinales();
 }
 

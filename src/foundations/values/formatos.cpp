@@ -93,11 +93,23 @@ std::string textoPlano(const Decimal& decimal, const AjustesRegionales& ajustes)
     return escribe(decimal, patron, ajustes);
 }
 
-/// The number with as many digits as stand for `cuantos` places, zeros before it.
-std::string conCeros(int numero, int cuantos) {
-    Patron patron;
-    patron.enterasMinimas = cuantos;
-    return escribe(Decimal(numero), patron, kEspana);
+/// A whole number whose digits are all told.
+bool esEnteroExacto(double valor) {
+    constexpr double kMaximo = 1e15;
+    return std::abs(valor) < kMaximo && valor == std::trunc(valor);
+}
+
+/// The number, never negative, with as many digits as stand for `cuantos` places, zeros before it.
+std::string conCeros(int numero, std::size_t cuantos) {
+    std::string cifras;
+    for (; numero > 0 || cifras.size() < cuantos; numero /= 10)
+        cifras.insert(cifras.begin(), static_cast<char>('0' + numero % 10));
+    return cifras;
+}
+
+/// The letter of a date's pattern: that of the month has two cases.
+char letraDe(char c) {
+    return c == 'M' ? 'm' : c;
 }
 
 /// 0 for Monday.
@@ -186,6 +198,7 @@ std::string FormatoNumero(double valor, std::string_view patron, const AjustesRe
 }
 
 std::string TextoPlano(double valor, const AjustesRegionales& ajustes) {
+    if (esEnteroExacto(valor)) return std::to_string(static_cast<long long>(valor));
     return std::isfinite(valor) ? textoPlano(Decimal{valor}, ajustes) : std::string{};
 }
 
@@ -196,9 +209,9 @@ std::string TextoPlanoSimple(float valor, const AjustesRegionales& ajustes) {
 std::string FormatoFecha(Fecha fecha, std::string_view patron, const AjustesRegionales& ajustes) {
     std::string salida;
     for (std::size_t i = 0; i < patron.size();) {
-        const char letra = patron[i] == 'M' ? 'm' : patron[i];
-        const auto distinta = patron.find_first_not_of(letra == 'm' ? "mM" : patron.substr(i, 1), i);
-        const std::size_t letras = std::min(distinta, patron.size()) - i;
+        const char letra = letraDe(patron[i]);
+        std::size_t letras = 1;
+        while (i + letras < patron.size() && letraDe(patron[i + letras]) == letra) ++letras;
         switch (letra) {
             case 'd':
                 salida += formatoDia(fecha, letras, ajustes);

@@ -1,6 +1,6 @@
 #include "foundations/values/json.h"
 
-#include <algorithm>
+#include <array>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -13,8 +13,33 @@ namespace {
 
 constexpr std::string_view kHexadecimales = "0123456789abcdef";
 
-bool esLlano(char c) {
-    return c >= ' ' && c != '"' && c != '\\' && c != 0x7F;  // a char above 0x7F is negative
+constexpr char32_t kReemplazo = 0xFFFD;
+
+/// Stands for itself between quotes. What replaces bytes that are no character stands for others.
+constexpr bool esLlano(char32_t c) {
+    const bool control = c < ' ' || (c >= 0x7F && c < 0xA0);
+    return !control && c != '"' && c != '\\' && c != kReemplazo;
+}
+
+/// The same for each byte that is a character.
+constexpr auto kByteLlano = [] {
+    std::array<bool, 256> llanos{};
+    for (unsigned c = 0; c < 0x80; ++c) llanos[c] = esLlano(c);
+    return llanos;
+}();
+
+/// Where the characters that stand for themselves end.
+std::size_t finDeLoLlano(std::string_view texto, std::size_t pos) {
+    while (pos < texto.size()) {
+        if (kByteLlano[static_cast<unsigned char>(texto[pos])]) {
+            ++pos;
+            continue;
+        }
+        std::size_t siguiente = pos;
+        if (!esLlano(SiguienteCaracter(texto, siguiente))) break;
+        pos = siguiente;
+    }
+    return pos;
 }
 
 template <typename Bits>
@@ -52,9 +77,7 @@ void agregaReal(std::string& salida, T numero) {
 void AgregaJson(std::string& salida, std::string_view texto) {
     salida += '"';
     for (std::size_t pos = 0; pos < texto.size();) {
-        const auto especial =
-            std::find_if_not(texto.begin() + static_cast<std::ptrdiff_t>(pos), texto.end(), esLlano);
-        const auto fin = static_cast<std::size_t>(especial - texto.begin());
+        const std::size_t fin = finDeLoLlano(texto, pos);
         salida.append(texto, pos, fin - pos);
         pos = fin;
         if (pos < texto.size()) agregaCaracter(salida, SiguienteCaracter(texto, pos));
