@@ -4,10 +4,10 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTimer>
 #include <algorithm>
 #include <cstdlib>
 #include <tuple>
-#include <utility>
 
 #include "toolkit/boton_logo.h"
 #include "toolkit/boton_opcion.h"
@@ -104,14 +104,21 @@ void VistaMenu::ponOpciones() {
 
 // --- What the program asks
 
+/// The menu shows the same picture, smaller: it is made while the cover is looked at.
 void VistaMenu::muestraPortada(const std::string& foto, std::chrono::milliseconds duracion) {
-    portada_ = cargaImagen(almacen_, foto);
-    Portada{portada_}.muestra(duracion);
+    const QPixmap imagen = cargaImagen(almacen_, foto);
+    Portada portada{imagen};
+    QTimer::singleShot(0, &portada, [&] { ponFoto(imagen); });
+    fotoDePortada_ = foto;
+    portada.muestra(duracion);
 }
 
 void VistaMenu::cargaMenuFoto(const std::string& foto) {
-    const QPixmap portada = portada_.isNull() ? cargaImagen(almacen_, foto) : std::exchange(portada_, {});
-    foto_->setPixmap(encajada(portada, foto_->size(), devicePixelRatioF()));
+    if (foto != fotoDePortada_) ponFoto(cargaImagen(almacen_, foto));
+}
+
+void VistaMenu::ponFoto(const QPixmap& imagen) {
+    foto_->setPixmap(encajada(imagen, foto_->size(), devicePixelRatioF()));
 }
 
 Imagen VistaMenu::cargaLogoOrvemo(const std::string& foto) {

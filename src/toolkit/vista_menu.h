@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QPixmap>
+#include <string>
 #include <vector>
 
 #include "foundations/values/almacen.h"
 #include "shell/programa.h"
 
 class QLabel;
+class QPixmap;
 
 namespace orvemo {
 
@@ -40,6 +41,7 @@ class VistaMenu final : public QMainWindow, public VistaPrograma {
     void changeEvent(QEvent* suceso) override;
 
   private:
+    void ponFoto(const QPixmap& imagen);
     void ponOpciones();
     void ponLogoAlAlcance();
     bool atiendeTecla(const BotonOpcion& boton, int tecla);
@@ -50,7 +52,7 @@ class VistaMenu final : public QMainWindow, public VistaPrograma {
     Supuesto* menu_;
     BotonLogo* logo_;
     QLabel* foto_;
-    QPixmap portada_;  ///< from the cover to the menu, which shows the same picture
+    std::string fotoDePortada_;  ///< the picture already in its place
     std::vector<BotonOpcion*> opciones_;
 };
 
