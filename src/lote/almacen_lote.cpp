@@ -58,7 +58,9 @@ class Prestado final : public FicheroAleatorio {
 }  // namespace
 
 AlmacenLote::AlmacenLote(const std::filesystem::path& datos, const std::filesystem::path& fichero)
-    : datos_{datos}, comoSeDio_{fichero.string()}, fichero_{std::make_unique<LecturaAdelantada>(AbreParaLeer(fichero))} {
+    : datos_{datos},
+      comoSeDio_{fichero.string()},
+      fichero_{std::make_unique<LecturaAdelantada>(AbreParaLeer(fichero))} {
     DirectorioAplicacion suCarpeta{std::filesystem::absolute(fichero).parent_path()};
     Diario{suCarpeta, fichero.filename().string()}.recupera();
 }
@@ -69,7 +71,8 @@ bool AlmacenLote::esElFichero(std::string_view nombre) const {
 
 bool AlmacenLote::existe(std::string_view nombre) const {
     // Nor is a journal looked for beside the file at every case: nothing is written here.
-    if (nombre.ends_with(kSufijoDiario) && esElFichero(nombre.substr(0, nombre.size() - kSufijoDiario.size())))
+    if (nombre.ends_with(kSufijoDiario) &&
+        esElFichero(nombre.substr(0, nombre.size() - kSufijoDiario.size())))
         return false;
     return esElFichero(nombre) || datos_.existe(nombre);
 }
