@@ -8,9 +8,8 @@
 #include "foundations/values/fallos.h"
 #include "foundations/values/json.h"
 #include "lote/almacen_lote.h"
-#include "lote/lote.h"
+#include "lote/corrida.h"
 #include "lote/mundo_lote.h"
-#include "lote/salida.h"
 #include "tax/liquidos_frm.h"
 #include "toolkit/impresora_pdf.h"
 
@@ -24,7 +23,7 @@ void escribe(LiquidosFrm& frm, Campo& campo, const std::string& texto) {
 }
 
 /// Fills the screen as its user would and presses the button.
-void calcula(LiquidosFrm& frm, const OpcionesLiquidos& pedido, const irpf::DatosRetencion& persona) {
+void rellenaYCalcula(LiquidosFrm& frm, const OpcionesLiquidos& pedido, const irpf::DatosRetencion& persona) {
     frm.Inicia();
     frm.carga(persona);
     frm.elige(frm.NomiCategoria, pedido.grupo - 1);
@@ -56,7 +55,7 @@ std::string miembrosDe(const LiquidosFrm& frm, std::string_view bytes) {
     return json + ",\"resultado\":" + resultado + "}";
 }
 
-class LoteLiquidos {
+class LoteLiquidos final : public Calculo {
   public:
     LoteLiquidos(const Opciones& opciones, const std::filesystem::path& datos)
         : opciones_{opciones},
@@ -64,34 +63,16 @@ class LoteLiquidos {
           archivo_{almacen_, opciones.fichero.string(), irpf::kDiseno.longitud()},
           reloj_{opciones.hoy} {}
 
-    int calculaTodo(std::ostream& salida) {
-        const int cuenta = archivo_.cuenta();
-        const int primero = opciones_.registro.value_or(1);
-        const int ultimo = opciones_.registro.value_or(cuenta);
-        if (opciones_.registro && (ultimo > cuenta || !archivo_.entrada(ultimo))) {
-            throw ArgumentoInservible{"El fichero no tiene ningún supuesto en el registro " +
-                                      std::to_string(ultimo) + "."};
-        }
-        bool algunFallo = false;
-        for (int registro = primero; registro <= ultimo; ++registro) {
-            const auto resultado = resultadoDe(registro);
-            if (!resultado) continue;
-            algunFallo = algunFallo || !resultado->error.empty();
-            std::string escrito;
-            (opciones_.json ? EscribeJson : EscribeTexto)(escrito, *resultado);
-            if (!(salida << escrito).flush()) throw ArgumentoInservible{"No se puede escribir la salida."};
-        }
-        return algunFallo ? kAlgunoFallo : kTodoCalculado;
+    [[nodiscard]] int cuenta() const override { return archivo_.cuenta(); }
+    [[nodiscard]] std::optional<EntradaSupuesto> entrada(int registro) const override {
+        return archivo_.entrada(registro);
     }
 
-  private:
-    [[nodiscard]] std::optional<Resultado> resultadoDe(int registro) {
+    [[nodiscard]] Resultado calcula(const EntradaSupuesto& entrada) override {
         Resultado resultado;
-        resultado.registro = registro;
+        resultado.registro = entrada.registro;
+        resultado.supuesto = entrada.nombre;
         try {
-            const auto entrada = archivo_.entrada(registro);
-            if (!entrada) return std::nullopt;
-            resultado.supuesto = entrada->nombre;
             recorre(resultado);
         } catch (const Fallo& fallo) {
             resultado.error = fallo.what();
@@ -99,6 +80,7 @@ class LoteLiquidos {
         return resultado;
     }
 
+  private:
     void recorre(Resultado& resultado) {
         MensajesLote mensajes;
         RutinasImpresion rutinas;
@@ -109,7 +91,7 @@ class LoteLiquidos {
         irpf::DatosRetencion persona;
         irpf::kDiseno.lee(bytes, persona);
         LiquidosFrm frm{entorno};
-        calcula(frm, opciones_.liquidos, persona);
+        rellenaYCalcula(frm, opciones_.liquidos, persona);
         resultado.error = mensajes.error;
         resultado.nombre = persona.Nombre.utf8();
         resultado.derecho = true;
@@ -125,13 +107,15 @@ class LoteLiquidos {
 
 }  // namespace
 
-int CalculaLiquidos(const Opciones& opciones, const std::filesystem::path& datos, std::ostream& salida) {
+int CalculaLiquidos(const Opciones& opciones, const std::filesystem::path& datos, std::ostream& salida,
+                    std::ostream* terminal) {
     if (opciones.mandato != Mandato::Calcula) {
         throw ArgumentoInservible{"«" + opciones.calculadora +
                                   "» no tiene supuestos propios: usa los de «irpf»."};
     }
     if (opciones.pdf) throw ArgumentoInservible{"«" + opciones.calculadora + "» no imprime."};
-    return LoteLiquidos{opciones, datos}.calculaTodo(salida);
+    LoteLiquidos lote{opciones, datos};
+    return calculaTodo(opciones, lote, salida, terminal);
 }
 
 }  // namespace orvemo::lote

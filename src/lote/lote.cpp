@@ -12,9 +12,9 @@
 #include "foundations/frame/asistente.h"
 #include "foundations/values/fallos.h"
 #include "lote/almacen_lote.h"
+#include "lote/corrida.h"
 #include "lote/liquidos_lote.h"
 #include "lote/mundo_lote.h"
-#include "lote/salida.h"
 #include "lote/traslado.h"
 #include "toolkit/impresora_pdf.h"
 
@@ -69,7 +69,7 @@ void eligePapel(Calculadora& calculadora, int papel) {
     lista->ponIndice(papel);
 }
 
-class Lote {
+class Lote final : public Calculo {
   public:
     /// Throws Fallo for a case file that can't be read, or a data file of the calculator that is amiss.
     Lote(const Opciones& opciones, const std::filesystem::path& datos, const RegistroCatalogo& registro)
@@ -83,15 +83,14 @@ class Lote {
         if (opciones_.papel) eligePapel(apertura_->calculadora(), *opciones_.papel);
     }
 
-    [[nodiscard]] int cuenta() const { return archivo_.cuenta(); }
-    /// The case of that record; nullopt for a free slot. Throws Fallo for one that isn't there whole.
-    [[nodiscard]] std::optional<EntradaSupuesto> entrada(int registro) const {
+    [[nodiscard]] int cuenta() const override { return archivo_.cuenta(); }
+    [[nodiscard]] std::optional<EntradaSupuesto> entrada(int registro) const override {
         return archivo_.entrada(registro);
     }
 
     /// Loads, goes to the conclusions, prints if asked; whatever fails stands in the result. Nothing of one
     /// case is there for the next.
-    [[nodiscard]] Resultado calcula(const EntradaSupuesto& entrada) {
+    [[nodiscard]] Resultado calcula(const EntradaSupuesto& entrada) override {
         Resultado resultado;
         resultado.registro = entrada.registro;
         resultado.supuesto = entrada.nombre;
@@ -170,53 +169,12 @@ const RegistroCatalogo& registroPedido(Calculadoras catalogo, const std::string&
     return entrada->registro;
 }
 
-/// The records asked for: one, that must be in use, or all.
-std::pair<int, int> registrosPedidos(const Opciones& opciones, Lote& lote) {
-    const int cuenta = lote.cuenta();
-    if (!opciones.registro) return {1, cuenta};
-    if (*opciones.registro > cuenta || !lote.entrada(*opciones.registro)) {
-        throw ArgumentoInservible{"El fichero no tiene ningún supuesto en el registro " +
-                                  std::to_string(*opciones.registro) + "."};
-    }
-    return {*opciones.registro, *opciones.registro};
-}
-
-/// The result of a record; nullopt for a free slot.
-std::optional<Resultado> resultadoDe(Lote& lote, int registro) {
-    try {
-        if (const auto entrada = lote.entrada(registro)) return lote.calcula(*entrada);
-        return std::nullopt;
-    } catch (const Fallo& fallo) {
-        Resultado resultado;
-        resultado.registro = registro;
-        resultado.error = fallo.what();
-        return resultado;
-    }
-}
-
-int calculaTodo(const Opciones& opciones, Lote& lote, std::ostream& salida) {
-    const auto [primero, ultimo] = registrosPedidos(opciones, lote);
-    bool algunFallo = false;
-    std::string escrito;
-    for (int registro = primero; registro <= ultimo; ++registro) {
-        const auto resultado = resultadoDe(lote, registro);
-        if (!resultado) continue;
-        algunFallo = algunFallo || !resultado->error.empty();
-        escrito.clear();
-        (opciones.json ? EscribeJson : EscribeTexto)(escrito, *resultado);
-        salida.write(escrito.data(), static_cast<std::streamsize>(escrito.size()));
-        // Whoever reads has each result as soon as it's there, and nothing is computed for nobody.
-        if (!salida.flush()) throw ArgumentoInservible{"No se puede escribir la salida."};
-    }
-    return algunFallo ? kAlgunoFallo : kTodoCalculado;
-}
-
 int obedece(const Opciones& opciones, Calculadoras catalogo, const std::filesystem::path& datosPorDefecto,
-            std::ostream& salida, std::ostream& errores, std::istream& entrada) {
+            std::ostream& salida, std::ostream& errores, std::istream& entrada, std::ostream* terminal) {
     compruebaRutas(opciones);
     const RegistroCatalogo& registro = registroPedido(catalogo, opciones.calculadora);
     const auto datos = opciones.datos.value_or(datosPorDefecto);
-    if (registro.abre == nullptr) return CalculaLiquidos(opciones, datos, salida);
+    if (registro.abre == nullptr) return CalculaLiquidos(opciones, datos, salida, terminal);
     if (opciones.mandato == Mandato::Exporta) {
         Exporta(registro, opciones.fichero, salida);
         if (!salida.flush()) throw ArgumentoInservible{"No se puede escribir la salida."};
@@ -227,15 +185,15 @@ int obedece(const Opciones& opciones, Calculadoras catalogo, const std::filesyst
         return importado ? kTodoCalculado : kInservible;
     }
     Lote lote{opciones, datos, registro};
-    return calculaTodo(opciones, lote, salida);
+    return calculaTodo(opciones, lote, salida, terminal);
 }
 
 }  // namespace
 
 int ejecuta(const Opciones& opciones, Calculadoras catalogo, const std::filesystem::path& datosPorDefecto,
-            std::ostream& salida, std::ostream& errores, std::istream& entrada) {
+            std::ostream& salida, std::ostream& errores, std::istream& entrada, std::ostream* terminal) {
     try {
-        return obedece(opciones, catalogo, datosPorDefecto, salida, errores, entrada);
+        return obedece(opciones, catalogo, datosPorDefecto, salida, errores, entrada, terminal);
     } catch (const ArgumentoInservible& error) {
         errores << error.what() << '\n';
     } catch (const std::bad_alloc&) {

@@ -17,8 +17,10 @@ inline constexpr int kInservible = 2;
 
 /// Computes the cases of a file one by one, each as if the calculator had just been opened, and writes what
 /// stands on its conclusions. Results stream. Or takes the cases out of the file or into it as text. Gives
-/// the exit status; what can't be used is told on `errores`.
+/// the exit status; what can't be used is told on `errores`, and on the terminal, if one is given, how far a
+/// long file has come.
 int ejecuta(const Opciones& opciones, Calculadoras catalogo, const std::filesystem::path& datosPorDefecto,
-            std::ostream& salida, std::ostream& errores, std::istream& entrada = std::cin);
+            std::ostream& salida, std::ostream& errores, std::istream& entrada = std::cin,
+            std::ostream* terminal = nullptr);
 
 }  // namespace orvemo::lote

@@ -1,5 +1,7 @@
 // orvemo-lote: the calculators without screens, for advisers with many cases, scripts and checks.
 
+#include <unistd.h>
+
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -24,6 +26,11 @@ void callaAvisos(QtMsgType tipo, const QMessageLogContext& /*lugar*/, const QStr
     if (tipo == QtCriticalMsg || tipo == QtFatalMsg) std::cerr << texto.toStdString() << '\n';
 }
 
+/// Where the progress is told: nowhere but on a terminal, nor there where the results go by.
+std::ostream* terminalDelProgreso() {
+    return ::isatty(STDERR_FILENO) == 1 && ::isatty(STDOUT_FILENO) == 0 ? &std::cerr : nullptr;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -44,7 +51,7 @@ int main(int argc, char** argv) {
     const orvemo::Calculadoras catalogo = orvemo::CalculadorasDelPrograma();
     try {
         return ejecuta(leeOpciones(argumentos, catalogo), catalogo, directorioDelEjecutable(), std::cout,
-                       std::cerr);
+                       std::cerr, std::cin, terminalDelProgreso());
     } catch (const PideAyuda& ayuda) {
         std::cout << ayuda.what();
         return kTodoCalculado;
