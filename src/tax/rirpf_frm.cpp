@@ -17,7 +17,7 @@ enum Panel { kDatos, kFamiliares, kRegularizacion };
 
 constexpr std::size_t kLargoNombre = 80;
 constexpr std::size_t kLargoNIF = 9;
-constexpr int kAnchoTextos = 24;  // characters: the amounts stand at their right
+constexpr int kAnchoTextos = 28;  // characters: the amounts stand at their right
 
 const std::vector<std::string> kTiposContrato{"General", "Duración inferior al año y peonadas",
                                               "Relación laboral de carácter especial"};
@@ -116,7 +116,6 @@ irpf::Declarador RetIrpfFrm::enPantalla(int pantalla) {
 Campo& RetIrpfFrm::importe(const char* nombre, const char* rotulo, Grupo& grupo, const char* defecto) {
     DefCampo def = deGrupo(decimal(nombre, rotulo, {}), grupo);
     def.defecto = defecto;
-    def.formato = "##,###,##0.00";
     return nuevo(std::move(def));
 }
 

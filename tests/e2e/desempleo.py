@@ -16,6 +16,7 @@ DICTAMEN = "CONCLUSIONES SOBRE PRESTACION DE DESEMPLEO"
 NOMBRE = "Nombre completo:"
 EDAD = "Edad del solicitante:"
 FECHA = "Fecha de solicitud:"
+SUMA = "Suma de cotizaciones de los últimos 180 días:"
 HORAS = "Horas reales trabajadas durante la semana (1 a 39 horas):"
 
 # What is typed, in the order of the fields; before the last one the contract is marked as a part-time one.
@@ -24,7 +25,7 @@ CASO = {
     EDAD: "45",
     FECHA: "20-03-2005",
     "Fecha de inicio de la situación:": "01-03-2005",
-    "Suma de cotizaciones de los últimos 180 días:": "8000,50",
+    SUMA: "8000,50",
     "Días cotizados en los 6 años anteriores:": "1000",
     "Número de hijos menores de 26 años o minusválidos:": "1",
     HORAS: "20",

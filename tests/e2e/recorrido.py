@@ -5,7 +5,7 @@ import time
 
 import desempleo
 import menu
-from desempleo import CASO, EDAD, FECHA, GRABACION, LARGO_REGISTRO, NOMBRE, PANTALLA, registro
+from desempleo import CASO, EDAD, FECHA, GRABACION, LARGO_REGISTRO, NOMBRE, PANTALLA, SUMA, registro
 from escritorio import cuenta, espera
 from usuario import CONFIRMACION, ERROR, Programa, espera_ventana, pulsa, teclea
 
@@ -79,7 +79,7 @@ def empieza_otro_y_carga(programa):
     programa.espera_que_se_lea(SUPUESTO)
     pulsa("Down", "Return")
     espera_ventana(PANTALLA)
-    for campo, texto in (CASO | {EDAD: "46"}).items():
+    for campo, texto in (CASO | {EDAD: "46", SUMA: "8.000,50"}).items():
         programa.espera_campo(campo, texto)
 
 

@@ -4,6 +4,12 @@
 
 namespace orvemo {
 
+namespace {
+
+constexpr const char* kFormatoImporte = "##,###,##0.00";
+
+}  // namespace
+
 DefCampo texto(std::string nombre, std::string rotulo, std::string defecto, Grupo* grupo) {
     return {.nombre = std::move(nombre),
             .rotulo = std::move(rotulo),
@@ -17,6 +23,7 @@ DefCampo decimal(std::string nombre, std::string rotulo, Reaccion alSalir, Grupo
             .grupo = grupo,
             .defecto = "0",
             .contenido = Contenido::Decimal,
+            .formato = kFormatoImporte,
             .alSalir = std::move(alSalir)};
 }
 
