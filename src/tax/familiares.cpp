@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/numeros.h"
 #include "foundations/values/textos.h"
@@ -163,7 +164,8 @@ Familiares::Familiares(Declarador declara)
       Descendientes{declara_.campo(listaAbierta("Descendientes", declara_.pantalla, grupoHijos))},
       NacimientoHijo{
           declara_.campo(anio("NacimientoHijo", "Año Nacimiento:", declara_.pantalla, grupoHijos))},
-      AdopcionHijo{declara_.campo(anio("AdopcionHijo", "Año Adopción:", declara_.pantalla, grupoHijos))},
+      AdopcionHijo{
+          declara_.campo(alLado(anio("AdopcionHijo", "Año Adopción:", declara_.pantalla, grupoHijos)))},
       DiscapacidadHijo{declara_.campo(discapacidad("DiscapacidadHijo", declara_.pantalla, grupoHijos))},
       ComputoHijo{declara_.campo({.nombre = "ComputoHijo",
                                   .rotulo = "Familia Monoparental",
@@ -186,6 +188,7 @@ Familiares::Familiares(Declarador declara)
                                 .defecto = "1",
                                 .largo = 1,
                                 .alEscribir = [this](Campo&) { compruebaConvivencia(); },
+                                .mismaLinea = true,
                                 .anchura = 3})},
       DiscapacidadAscen{
           declara_.campo(discapacidad("DiscapacidadAscen", declara_.pantalla, grupoAscendientes))},
@@ -196,6 +199,8 @@ Familiares::Familiares(Declarador declara)
 
 Campo& Familiares::boton(const char* nombre, int indice, const char* rotulo, Grupo& grupo,
                          Reaccion alPulsar) {
+    // Those of the descendants stand beside the mark before them: so both lists are of one height.
+    const bool trasLaCasilla = indice == 0 && &grupo == &grupoHijos;
     return declara_.campo({.nombre = nombre,
                            .indice = indice,
                            .rotulo = rotulo,
@@ -203,7 +208,7 @@ Campo& Familiares::boton(const char* nombre, int indice, const char* rotulo, Gru
                            .pantalla = declara_.pantalla,
                            .grupo = &grupo,
                            .alPulsar = std::move(alPulsar),
-                           .mismaLinea = indice > 0});
+                           .mismaLinea = indice > 0 || trasLaCasilla});
 }
 
 // --- Rows and entries

@@ -16,6 +16,7 @@ namespace {
 enum Panel { kDatos, kResultado };
 
 constexpr int kAnchoGrupo = 24;  // characters
+constexpr int kAnchoPagas = 3;
 
 // The blanks behind some of the groups are part of their names.
 const std::vector<std::string> kCategorias{
@@ -58,9 +59,11 @@ LiquidosFrm::LiquidosFrm(Entorno& entorno)
            .grupo = &FrmSalario,
            .defecto = "1000",
            .contenido = Contenido::Decimal,
+           .formato = "###,##0.00",
            .alSalir =
                [](Campo& campo) { campo.ponTexto(FormatoNumero(DobleDe(campo.texto()), "######0.00")); }})},
-      LiquidosExtra{nuevo(deGrupo(entero("LiquidosExtra", "Nº Pagas Extra:", {}, nullptr, "2"), FrmSalario))},
+      LiquidosExtra{nuevo(
+          alLado(conAnchura(entero("LiquidosExtra", "Nº Pagas Extra:", {}, &FrmSalario, "2"), kAnchoPagas)))},
       AnioNacimiento{nuevo(deGrupo(entero("AñoNacimiento", "Año de Nacimiento:", {}), FrmSalario))},
       circunstancias{enPantalla(kDatos), &FrmSalario, &FrmPersona, &FrmFamilia},
       familiares{enPantalla(kDatos)},
@@ -72,12 +75,6 @@ LiquidosFrm::LiquidosFrm(Entorno& entorno)
       iSS{resultado("iSS", "Seguridad Social:")},
       iLiq{resultado("iLiq", "Líquido mensual:")},
       Curva{nuevo({.nombre = "Curva", .clase = Clase::Grafica, .pantalla = kResultado})},
-      BotonCalcular{nuevo({.nombre = "BotonCalcular",
-                           .rotulo = "Calcular",
-                           .clase = Clase::Boton,
-                           .pantalla = kPie,
-                           .alPulsar = [this](Campo&) { LiquidosCalcular(); },
-                           .ayuda = "Calcular el salario bruto"})},
       Anterior{nuevo({.nombre = "Anterior",
                       .rotulo = "(Pantalla Anterior...)",
                       .clase = Clase::Boton,
@@ -85,6 +82,12 @@ LiquidosFrm::LiquidosFrm(Entorno& entorno)
                       .alPulsar = [this](Campo&) { MuestraPantalla(kDatos); },
                       .visible = false,
                       .ayuda = "Mostrar pantalla anterior"})},
+      BotonCalcular{nuevo({.nombre = "BotonCalcular",
+                           .rotulo = "Calcular",
+                           .clase = Clase::Boton,
+                           .pantalla = kPie,
+                           .alPulsar = [this](Campo&) { LiquidosCalcular(); },
+                           .ayuda = "Calcular el salario bruto"})},
       BotonExit{nuevo({.nombre = "BotonExit",
                        .rotulo = "Salir",
                        .clase = Clase::Boton,

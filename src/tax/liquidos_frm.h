@@ -49,8 +49,8 @@ class LiquidosFrm final : public Formulario {
     Campo& iSS;
     Campo& iLiq;
     Campo& Curva;
-    Campo& BotonCalcular;
     Campo& Anterior;
+    Campo& BotonCalcular;
     Campo& BotonExit;
 };
 

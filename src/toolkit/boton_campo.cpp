@@ -36,6 +36,7 @@ constexpr std::array kAspectos{
     Aspecto{"BotonExit", Dibujo::Puerta, "Ctrl+W"},
     Aspecto{"BotonCDROM", Dibujo::Disco, "Ctrl+G"},
     Aspecto{"Siguiente", Dibujo::FlechaDerecha, "Alt+Right"},
+    Aspecto{"BotonCalcular", Dibujo::FlechaDerecha, "Alt+Right"},
     Aspecto{"Anterior", Dibujo::FlechaIzquierda, "Alt+Left"},
 };
 

@@ -18,11 +18,13 @@ namespace {
 constexpr int kLadoIcono = 210;
 constexpr int kLadoIconoMensaje = 540;
 constexpr int kSeparacionHorizontal = 120;
-constexpr int kSeparacionVertical = 90;
+constexpr int kSeparacionVertical = 80;
 constexpr int kMargen = 150;
+constexpr int kMargenVertical = 105;
 constexpr int kRellenoBoton = 180;
+constexpr int kAnchoBoton = 800;  // at least
 constexpr int kRellenoPequeno = 120;
-constexpr int kBajoTitulo = 45;
+constexpr int kBajoTitulo = 30;
 constexpr int kAnchoBarra = 180;
 constexpr int kTiradorMinimo = 360;
 constexpr int kAireTirador = 45;
@@ -206,10 +208,11 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QW
         case PM_LayoutVerticalSpacing:
             return px(kSeparacionVertical);
         case PM_LayoutLeftMargin:
-        case PM_LayoutTopMargin:
         case PM_LayoutRightMargin:
-        case PM_LayoutBottomMargin:
             return px(kMargen);
+        case PM_LayoutTopMargin:
+        case PM_LayoutBottomMargin:
+            return px(kMargenVertical);
         case PM_ScrollBarExtent:
             return px(kAnchoBarra);
         case PM_ScrollBarSliderMin:
@@ -235,7 +238,7 @@ QSize Estilo::sizeFromContents(ContentsType clase, const QStyleOption* opcion, c
     if (clase == CT_PushButton && widget != nullptr && widget->property(kPropiedadPequeno).toBool()) {
         talla = {qMax(alto, contenido.width() + px(kRellenoPequeno)), alto};
     } else if (clase == CT_PushButton) {
-        talla = {qMax(talla.width(), contenido.width() + 2 * px(kRellenoBoton)),
+        talla = {qMax(px(kAnchoBoton), contenido.width() + 2 * px(kRellenoBoton)),
                  qMax(contenido.height(), alto)};
     }
     return talla;

@@ -83,7 +83,7 @@ QSize LineaCampo::sizeHint() const {
     QStyleOptionFrame opcion;
     initStyleOption(&opcion);
     const QMargins margenes = textMargins();
-    const int texto = fontMetrics().horizontalAdvance(QLatin1Char('0')) * anchura();
+    const int texto = fontMetrics().horizontalAdvance(QString{anchura(), QLatin1Char('0')});
     const QSize contenido{
         texto + margenes.left() + margenes.right() + 2 * opcion.lineWidth + px(kRellenoCampo),
         fontMetrics().height()};

@@ -16,6 +16,8 @@ constexpr int kAnchuraMinima = 6;
 constexpr int kAnchuraMaxima = 44;
 constexpr int kAnchuraEstrecha = 20;
 
+constexpr int kFilasMinimas = 4;  // lines of text of a list box
+
 constexpr int kMargenDeLista = 120;  // twips beside the widest entry when the list drops down
 
 QStringList textos(const std::vector<std::string>& opciones) {
@@ -78,6 +80,10 @@ void ListaCampo::wheelEvent(QWheelEvent* suceso) {
 ListaAbiertaCampo::ListaAbiertaCampo(Campo& campo, Anfitrion& anfitrion) : Control{campo, anfitrion} {
     alElegir = [this](int indice) { elige(indice); };
     alAceptar = [this] { formulario().doblePulsa(this->campo()); };
+}
+
+QSize ListaAbiertaCampo::minimumSizeHint() const {
+    return {fontMetrics().averageCharWidth() * kAnchuraEstrecha, fontMetrics().height() * kFilasMinimas};
 }
 
 void ListaAbiertaCampo::elige(int indice) {

@@ -30,6 +30,7 @@ class ListaAbiertaCampo final : public ListaTextos, public Control {
     ListaAbiertaCampo(Campo& campo, Anfitrion& anfitrion);
 
     [[nodiscard]] QWidget& widget() override { return *this; }
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void refrescaValor() override { muestra(campo().opciones(), campo().indice()); }

@@ -14,10 +14,10 @@ constexpr double kAnchoNecesario = 660;
 constexpr double kAltoNecesario = 460;
 constexpr double kBarraDeTitulo = 40;
 
-constexpr double kEscalaMinima = 1;
+constexpr double kEscalaMinima = 0.7;
 constexpr double kEscalaComoda = 1.5;
 
-double factor = kEscalaMinima;
+double factor = 1;
 
 }  // namespace
 

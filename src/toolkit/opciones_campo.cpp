@@ -15,7 +15,7 @@ namespace orvemo {
 namespace {
 
 // Twips of the widest line.
-constexpr int kAnchoConRotulo = 4800;
+constexpr int kAnchoConRotulo = 5800;
 constexpr int kAnchoSinRotulo = 8400;
 
 class BotonRedondo final : public QRadioButton {
@@ -69,7 +69,7 @@ void OpcionesCampo::rehace() {
     for (QRadioButton* boton : botones_) delete boton;
     botones_.clear();
     opciones_ = campo().opciones();
-    const int ancho = px(campo().rotulo().empty() ? kAnchoSinRotulo : kAnchoConRotulo);
+    const int ancho = anchoDeLinea();
     for (const std::string& opcion : opciones_) {
         auto* boton = new BotonRedondo{sinMnemonico(opcion).trimmed(), ancho, this};
         const auto indice = static_cast<int>(botones_.size());
@@ -78,6 +78,12 @@ void OpcionesCampo::rehace() {
         botones_.push_back(boton);
     }
     updateGeometry();
+}
+
+int OpcionesCampo::anchoDeLinea() const {
+    const int caracteres = campo().def().anchura;
+    if (caracteres > 0) return qRound(caracteres * QFontMetricsF{font()}.averageCharWidth());
+    return px(campo().rotulo().empty() ? kAnchoSinRotulo : kAnchoConRotulo);
 }
 
 void OpcionesCampo::elige(int indice) {

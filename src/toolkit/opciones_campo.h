@@ -24,6 +24,7 @@ class OpcionesCampo final : public QWidget, public Control {
   private:
     void rehace();
     void elige(int indice);
+    [[nodiscard]] int anchoDeLinea() const;
 
     std::vector<std::string> opciones_;
     std::vector<QRadioButton*> botones_;

@@ -25,14 +25,14 @@ constexpr int kColHueco = 2;
 constexpr int kColumnasPar = 3;
 
 // Twips.
-constexpr int kHuecoColumnas = 240;
-constexpr int kHuecoBloques = 150;
+constexpr int kHuecoColumnas = 210;
+constexpr int kHuecoBloques = 105;
 constexpr int kHuecoApretado = 30;  // between the rows of a long table or of a dense panel
 constexpr int kHuecoBloquesDenso = 60;
 constexpr int kMargenDenso = 75;
 constexpr int kBajoRotulo = 45;
 constexpr int kAnchoUtil = 9120;     // of a panel
-constexpr int kAnchoRotulos = 3650;  // of a column of labels, at most: two fifths of it
+constexpr int kAnchoRotulos = 3350;  // of a column of labels, at most
 constexpr int kAnchoJuntos = 5000;   // of all the columns of labels that stand side by side
 
 constexpr std::size_t kFilasHolgadas = 12;
@@ -67,6 +67,11 @@ bool creceEnAlto(Clase clase) {
 
 bool esBotonSolo(const std::vector<Campo*>& fila) {
     return fila.size() == 1 && fila.front()->def().clase == Clase::Boton && !fila.front()->def().pequeno;
+}
+
+/// The frame around a field bears its label.
+bool loNombraSuGrupo(const Campo& campo) {
+    return campo.def().grupo != nullptr && campo.def().grupo->titulo() == campo.rotulo();
 }
 
 bool esVeredicto(const Campo& campo) {
@@ -111,6 +116,13 @@ void conservaSitio(QWidget& widget) {
     QSizePolicy politica = widget.sizePolicy();
     politica.setRetainSizeWhenHidden(true);
     widget.setSizePolicy(politica);
+}
+
+bool algunaCrece(const QGridLayout& rejilla) {
+    for (int fila = 0; fila < rejilla.rowCount(); ++fila) {
+        if (rejilla.rowStretch(fila) > 0) return true;
+    }
+    return false;
 }
 
 /// What the widest label of a grid asks for, seen or not.
@@ -178,14 +190,15 @@ void PanelFormulario::cuentaLosDeCadaFila(std::vector<Bloque>& bloques) {
     }
 }
 
-/// A group stands below what is before it, or at the right of the group before it.
-void PanelFormulario::coloca(QWidget* marco, bool alLado) {
+/// A group stands below what is before it, or at the right of the group before it. Frames share the width
+/// evenly; without them each group takes what it needs.
+void PanelFormulario::coloca(QWidget* marco, bool alLado, bool conTitulo) {
     if (!alLado || fila_ == nullptr) {
         fila_ = new QHBoxLayout;
         fila_->setSpacing(px(kHuecoColumnas));
         static_cast<QVBoxLayout*>(layout())->addLayout(fila_);
     }
-    fila_->addWidget(marco, 1);
+    fila_->addWidget(marco, conTitulo ? 1 : 0);
 }
 
 QGridLayout* PanelFormulario::nuevaRejilla(QWidget* marco) const {
@@ -212,7 +225,7 @@ void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
     QWidget* marco = conTitulo ? new QGroupBox{this} : new QWidget{this};
     marco->setObjectName(aQt(def.nombre));
     marcos_[&grupo] = marco;
-    coloca(marco, def.alLado);
+    coloca(marco, def.alLado, conTitulo);
     auto* rejilla = nuevaRejilla(marco);
     if (!conTitulo) rejilla->setContentsMargins(0, 0, 0, 0);
     switch (def.disposicion) {
@@ -229,7 +242,7 @@ void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
             break;
     }
     // Beside a taller one its rows stay together at the top.
-    if (def.disposicion != Disposicion::Filas) rejilla->setRowStretch(rejilla->rowCount(), 1);
+    if (!algunaCrece(*rejilla)) rejilla->setRowStretch(rejilla->rowCount(), 1);
     refresca(grupo);
 }
 
@@ -311,7 +324,7 @@ void PanelFormulario::ponPar(QGridLayout& rejilla, int fila, int columna, const 
     const std::size_t primero = controles_.size();
     QLayout* linea = enLinea(campos, RotuloDelPrimero::Aparte);
     const Clase clase = campos.front()->def().clase;
-    if (clase == Clase::Casilla) {
+    if (clase == Clase::Casilla || loNombraSuGrupo(*campos.front())) {
         rejilla.addLayout(linea, fila, columna + kColRotulo, 1, kColumnasFila);
         return;
     }

@@ -257,8 +257,9 @@ TEST_F(PanelesTest, TheScaleFitsTheScreenAndTheLetters) {
         QSize pantalla;
         double ampliacion, escala;
     } const casos[] = {
-        {{640, 480}, 1, 1},     {{1024, 768}, 1, 1.5},    {{1366, 728}, 1, 688 / 460.0},
-        {{1920, 1040}, 1, 1.5}, {{1920, 1040}, 1.4, 2.1}, {{800, 600}, 2, 800 / 660.0},
+        {{640, 480}, 1, 440 / 460.0},  {{640, 200}, 1, 0.7},   {{1024, 768}, 1, 1.5},
+        {{1366, 728}, 1, 688 / 460.0}, {{1920, 1040}, 1, 1.5}, {{1920, 1040}, 1.4, 2.1},
+        {{800, 600}, 2, 800 / 660.0},
     };
     for (const auto& caso : casos) {
         EXPECT_NEAR(escalaPara(caso.pantalla, caso.ampliacion), caso.escala, 0.001) << caso.pantalla.width();

@@ -35,6 +35,8 @@ constexpr std::string_view kQuienEsFamiliar =
     "cómputo anual, se podrá ser beneficiario de la pensión en favor de familiares siempre que, a la fecha "
     "del fallecimiento del causante, fuera menor de 22 años de edad.";
 
+constexpr int kAnchoOpciones = 40;  // characters of a line
+
 /// A whole number up to a comma, that may be blank. Throws DesbordeNumerico for one that the record can't
 /// hold.
 template <typename Entero>
@@ -73,13 +75,12 @@ MuerteFrm::MuerteFrm(Entorno& entorno)
                    .campoNombre = "MuerteNombre"}},
       MuerteNombre{nuevo({.nombre = "MuerteNombre", .rotulo = "Nombre completo:", .largo = 80})},
       MuerteFechaMuerte{nuevo(fechaElegida("MuerteFechaMuerte", "Fecha de fallecimiento del causante:"))},
-      MuerteSituacion{nuevo(opciones("MuerteSituacion", "Situación del causante:",
-                                     {muerte::kSituaciones.begin(), muerte::kSituaciones.end()},
-                                     [this](Campo&) { ajustaVisibles(); }))},
-      MuerteFechaPension{nuevo(fechaElegida("MuerteFechaPension", "Fecha de concesión de la pensión:"))},
-      MuerteCausa{nuevo(opciones("MuerteCausa",
-                                 "Causa de la muerte:", {muerte::kCausas.begin(), muerte::kCausas.end()},
-                                 [this](Campo&) { ajustaVisibles(); }))},
+      MuerteFechaPension{
+          nuevo(alLado(fechaElegida("MuerteFechaPension", "Fecha de concesión de la pensión:")))},
+      MuerteSituacion{nuevasOpciones("MuerteSituacion", "Situación del causante:",
+                                     {muerte::kSituaciones.begin(), muerte::kSituaciones.end()}, false)},
+      MuerteCausa{nuevasOpciones(
+          "MuerteCausa", "Causa de la muerte:", {muerte::kCausas.begin(), muerte::kCausas.end()}, true)},
       MuerteUltimaBase{nuevo({.nombre = "MuerteUltimaBase",
                               .defecto = "0",
                               .contenido = Contenido::Decimal,
@@ -114,8 +115,17 @@ MuerteFrm::MuerteFrm(Entorno& entorno)
                      .pantalla = kPeriodos,
                      .defecto = "0",
                      .contenido = Contenido::Entero})} {
-    ponPanel(kDatos, {.denso = true});
     enlazaCampos();
+}
+
+/// The two long lists stand side by side, each in a frame that bears its label.
+Campo& MuerteFrm::nuevasOpciones(const char* nombre, const char* rotulo, std::vector<std::string> entradas,
+                                 bool alLado) {
+    Grupo& marco = nuevoGrupo(
+        {.nombre = std::string{nombre} + "Frm", .titulo = rotulo, .pantalla = kDatos, .alLado = alLado});
+    DefCampo def = opciones(nombre, rotulo, std::move(entradas), [this](Campo&) { ajustaVisibles(); });
+    def.grupo = &marco;
+    return nuevo(conAnchura(std::move(def), kAnchoOpciones));
 }
 
 Campo& MuerteFrm::nuevaCuenta(const char* nombre, const char* rotulo, const char* defecto) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "foundations/frame/asistente.h"
 #include "pensions/comun/periodos_cotizados.h"
@@ -34,6 +35,8 @@ class MuerteFrm final : public AsistenteDe<muerte::RegistroMuerte, muerte::kDise
     static constexpr int kPeriodos = 2;
     static constexpr int kConclusiones = 3;
 
+    Campo& nuevasOpciones(const char* nombre, const char* rotulo, std::vector<std::string> entradas,
+                          bool alLado);
     Campo& nuevaCuenta(const char* nombre, const char* rotulo, const char* defecto = "0");
     Campo& nuevaNota(const char* nombre, const char* ayuda, std::string_view nota);
     void enlazaCampos();
@@ -47,8 +50,8 @@ class MuerteFrm final : public AsistenteDe<muerte::RegistroMuerte, muerte::kDise
   public:
     Campo& MuerteNombre;
     Campo& MuerteFechaMuerte;
-    Campo& MuerteSituacion;
     Campo& MuerteFechaPension;
+    Campo& MuerteSituacion;
     Campo& MuerteCausa;
     Campo& MuerteUltimaBase;
     Campo& MuerteDejaViuda;
