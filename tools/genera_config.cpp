@@ -1,8 +1,10 @@
 // Writes the "config.nom" that ships into the current directory: the options that open something are active,
-// the others are absent, and all keep their default places.
+// the others are absent, and they stand by subjects.
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <exception>
+#include <string>
 
 #include "catalogue/catalogo.h"
 #include "foundations/values/almacen.h"
@@ -12,6 +14,17 @@
 namespace {
 
 using namespace orvemo;
+
+/// The options from top to bottom, the left column first: pensions, short-term benefits and unemployment;
+/// non-contributory benefits, salaries and taxes, the library. The last two places of the right column are
+/// fixed.
+constexpr std::array kPorMaterias{0, 1, 2, 8, 7, 6, 14, 5, 3, 4, 9, 11, 10, 12};
+
+/// Number of the place of an option; blank for the one that is a switch.
+std::string ordenDe(int indice) {
+    const auto lugar = std::ranges::find(kPorMaterias, indice);
+    return lugar == kPorMaterias.end() ? "" : std::to_string(lugar - kPorMaterias.begin() + 1);
+}
 
 constexpr const char* kTitulo = "PENSIONES ORVEMO - Simulador de prestaciones, retenciones y nóminas 2005";
 
@@ -28,7 +41,7 @@ RegistroConfig opcion(int indice, bool activa) {
     registro.Numero = indice;
     registro.ponActiva(activa);
     registro.Texto.asigna("");
-    registro.Orden.asigna("");
+    registro.Orden.asigna(ordenDe(indice));
     return registro;
 }
 

@@ -10,6 +10,7 @@ inline constexpr int kAnchoMenu = 9600;
 inline constexpr int kAltoMenu = 6600;
 inline constexpr int kAnchoOpcion = 2000;
 inline constexpr int kAltoOpcion = 500;
+inline constexpr int kFilasMenu = 8;
 
 enum class Columna { Izquierda, Derecha };
 
@@ -29,8 +30,17 @@ struct Puesto {
 /// The place that a number of `config.nom` asks for: up to 8 down the left column, from 9 on down the right
 /// one.
 [[nodiscard]] constexpr Puesto puestoDeOrden(int orden) {
-    constexpr int kFilas = 8;
-    return orden <= kFilas ? Puesto{Columna::Izquierda, orden} : Puesto{Columna::Derecha, orden - kFilas};
+    return orden <= kFilasMenu ? Puesto{Columna::Izquierda, orden}
+                               : Puesto{Columna::Derecha, orden - kFilasMenu};
+}
+
+/// What an option is about.
+enum class Materia { Pensiones, Subsidios, NoContributivas, Salarios, Consulta };
+
+[[nodiscard]] constexpr std::string_view tituloDe(Materia materia) {
+    constexpr std::array<std::string_view, 5> kTitulos{
+        "Pensiones", "Subsidios y desempleo", "No contributivas", "Salarios e impuestos", "Consulta"};
+    return kTitulos[static_cast<std::size_t>(materia)];
 }
 
 /// How a screen comes up over the menu.
@@ -49,6 +59,7 @@ struct DefOpcion {
     std::string_view rotulo;
     std::string_view pantalla;  ///< screen that it opens
     Puesto puesto;              ///< where it stands unless `config.nom` moves it
+    Materia materia;
     Apertura apertura = kCalculadora;
 };
 
@@ -57,22 +68,29 @@ inline constexpr int kOpcionVerBaseActual = 13;  ///< in `config.nom` this index
 inline constexpr int kOpcionFin = 15;
 
 inline constexpr std::array<DefOpcion, kNumOpciones> kOpciones{{
-    {"Jubilación", "PensionFrm", {Columna::Izquierda, 1}},
-    {"Incapacidad Permanente", "InvaFrm", {Columna::Izquierda, 2}},
-    {"Muerte y Supervivencia", "MuerteFrm", {Columna::Izquierda, 3}},
-    {"Jubilación e Invalidez no Contributiva", "NoConFrm", {Columna::Izquierda, 4}},
-    {"Prestaciones Familiares no ContrIbutivas", "FamiliarFrm", {Columna::Izquierda, 5}},
-    {"Desempleo", "DesempFrm", {Columna::Izquierda, 6}},
-    {"Maternidad", "MaterFrm", {Columna::Izquierda, 7}},
-    {"Incapacidad Temporal", "ILTFrm", {Columna::Derecha, 1}},
-    {"Capitalización de pensiones", "CapitFrm", {Columna::Derecha, 2}},
-    {"Cálculo de Nóminas", "NominaFrm", {Columna::Derecha, 3}},
-    {"Conversión de líquidos en brutos", "LiquidosFrm", {Columna::Derecha, 4}, kConversion},
-    {"Retenciones IRPF", "RetIrpfFrm", {Columna::Derecha, 5}},
-    {"Fondo bibliográfico", "FondoFrm", {Columna::Derecha, 6}, kInformacion},
-    {"Información", "PresentaFrm", {Columna::Derecha, 7}, kInformacion},
-    {"Riesgo Embarazo", "RiesgoEmbarazo", {Columna::Izquierda, 8}},
-    {"&Fin del Programa", "", {Columna::Derecha, 8}},
+    {"Jubilación", "PensionFrm", {Columna::Izquierda, 1}, Materia::Pensiones},
+    {"Incapacidad Permanente", "InvaFrm", {Columna::Izquierda, 2}, Materia::Pensiones},
+    {"Muerte y Supervivencia", "MuerteFrm", {Columna::Izquierda, 3}, Materia::Pensiones},
+    {"Jubilación e Invalidez no Contributiva", "NoConFrm", {Columna::Izquierda, 4}, Materia::NoContributivas},
+    {"Prestaciones Familiares no ContrIbutivas",
+     "FamiliarFrm",
+     {Columna::Izquierda, 5},
+     Materia::NoContributivas},
+    {"Desempleo", "DesempFrm", {Columna::Izquierda, 6}, Materia::Subsidios},
+    {"Maternidad", "MaterFrm", {Columna::Izquierda, 7}, Materia::Subsidios},
+    {"Incapacidad Temporal", "ILTFrm", {Columna::Derecha, 1}, Materia::Subsidios},
+    {"Capitalización de pensiones", "CapitFrm", {Columna::Derecha, 2}, Materia::Pensiones},
+    {"Cálculo de Nóminas", "NominaFrm", {Columna::Derecha, 3}, Materia::Salarios},
+    {"Conversión de líquidos en brutos",
+     "LiquidosFrm",
+     {Columna::Derecha, 4},
+     Materia::Salarios,
+     kConversion},
+    {"Retenciones IRPF", "RetIrpfFrm", {Columna::Derecha, 5}, Materia::Salarios},
+    {"Fondo bibliográfico", "FondoFrm", {Columna::Derecha, 6}, Materia::Consulta, kInformacion},
+    {"Información", "PresentaFrm", {Columna::Derecha, 7}, Materia::Consulta, kInformacion},
+    {"Riesgo Embarazo", "RiesgoEmbarazo", {Columna::Izquierda, 8}, Materia::Subsidios},
+    {"&Fin del Programa", "", {Columna::Derecha, 8}, Materia::Consulta},
 }};
 
 }  // namespace orvemo

@@ -14,6 +14,7 @@
 #include "toolkit/imagenes_qt.h"
 #include "toolkit/manual_qt.h"
 #include "toolkit/medidas.h"
+#include "toolkit/paleta.h"
 #include "toolkit/portada.h"
 #include "toolkit/supuesto.h"
 #include "toolkit/textos_qt.h"
@@ -25,13 +26,13 @@ namespace {
 
 // Twips. `MarcoFoto` takes the room between the two columns of options.
 constexpr int kHuecoFoto = 165;
-constexpr int kFilas = 8;
+constexpr int kBajoCabecera = 30;
 constexpr int kMargenLogo = 135;
 constexpr int kLadoLogoMenu = 1005;
 
 QRect marcoFoto() {
     constexpr Puesto kPrimera{Columna::Izquierda, 1};
-    constexpr Puesto kUltima{Columna::Derecha, kFilas};
+    constexpr Puesto kUltima{Columna::Derecha, kFilasMenu};
     constexpr int kIzquierda = kPrimera.left() + kAnchoOpcion + kHuecoFoto;
     constexpr int kAncho = kUltima.left() - kHuecoFoto - kIzquierda;
     constexpr int kAlto = kUltima.top() + kAltoOpcion - kPrimera.top();
@@ -81,10 +82,12 @@ void VistaMenu::muestra(Programa& programa) {
 }
 
 void VistaMenu::ponOpciones() {
+    const PlanoMenu plano = planoDelMenu(programa_->opciones());
+    for (const Cabecera& cabecera : plano.cabeceras) ponCabecera(cabecera);
     for (std::size_t i = 0; i < kOpciones.size(); ++i) {
         const OpcionMenu& opcion = programa_->opciones()[i];
         auto* boton = new BotonOpcion{kOpciones[i], static_cast<int>(i), menu_};
-        boton->ponPuesto(opcion.puesto);
+        boton->ponPuesto(opcion.puesto, plano.top[i]);
         boton->setVisible(opcion.visible);
         boton->installEventFilter(this);
         connect(boton, &QPushButton::clicked, this, [this, boton] { programa_->Opcion(boton->indice()); });
@@ -100,6 +103,18 @@ void VistaMenu::ponOpciones() {
     for (std::size_t i = 1; i < orden.size(); ++i) setTabOrder(orden[i - 1], orden[i]);
     const auto primero = std::ranges::find_if(orden, [](QWidget* widget) { return !widget->isHidden(); });
     (*primero)->setFocus();
+}
+
+/// The name of a subject, just over the first of its options.
+void VistaMenu::ponCabecera(const Cabecera& cabecera) {
+    auto* rotulo = new QLabel{aQt(tituloDe(cabecera.materia)), menu_};
+    QPalette paleta = rotulo->palette();
+    paleta.setColor(QPalette::WindowText, kColorAcento);
+    rotulo->setPalette(paleta);
+    rotulo->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    const Puesto sitio{cabecera.columna, 1};
+    rotulo->setGeometry(px(sitio.left()), px(cabecera.top), px(kAnchoOpcion),
+                        px(kAltoCabecera - kBajoCabecera));
 }
 
 // --- What the program asks

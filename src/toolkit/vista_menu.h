@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "foundations/values/almacen.h"
+#include "shell/plano_menu.h"
 #include "shell/programa.h"
 
 class QLabel;
@@ -43,6 +44,7 @@ class VistaMenu final : public QMainWindow, public VistaPrograma {
   private:
     void ponFoto(const QPixmap& imagen);
     void ponOpciones();
+    void ponCabecera(const Cabecera& cabecera);
     void ponLogoAlAlcance();
     bool atiendeTecla(const BotonOpcion& boton, int tecla);
     [[nodiscard]] BotonOpcion* vecino(const BotonOpcion& boton, int tecla) const;

@@ -7,10 +7,12 @@
 #include "shell/apoyo_shell.h"
 #include "shell/fondo_frm.h"
 #include "shell/pantallas.h"
+#include "shell/plano_menu.h"
 
 namespace orvemo::pruebas {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 
 /// The application directory as it ships, in memory.
@@ -39,10 +41,15 @@ TEST_F(DatosDeFabrica, ElMenuTieneLasOpcionesQueSeAbrenYNingunaMas) {
         const auto indice = static_cast<std::size_t>(i);
         const OpcionMenu& opcion = programa.opciones()[indice];
         EXPECT_EQ(opcion.visible, pantallas[indice] != nullptr) << kOpciones[indice].rotulo;
-        EXPECT_EQ(opcion.puesto, kOpciones[indice].puesto);
         if (opcion.visible) programa.Opcion(i);
     }
     EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
+
+    std::vector<std::string_view> titulos;
+    for (const Cabecera& cabecera : planoDelMenu(programa.opciones()).cabeceras)
+        titulos.push_back(tituloDe(cabecera.materia));
+    EXPECT_THAT(titulos, ElementsAre("Pensiones", "Subsidios y desempleo", "No contributivas",
+                                     "Salarios e impuestos", "Consulta"));
 }
 
 TEST_F(DatosDeFabrica, CadaCapituloTieneLibrosConResumen) {

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "shell/apoyo_shell.h"
+#include "shell/plano_menu.h"
 
 namespace orvemo::pruebas {
 namespace {
@@ -140,6 +141,33 @@ TEST(Menu, LosPuestosEstanEnDosColumnas) {
         const Puesto puesto = puestoDeOrden(caso.orden);
         EXPECT_EQ(puesto.left(), caso.left) << caso.orden;
         EXPECT_EQ(puesto.top(), caso.top) << caso.orden;
+    }
+}
+
+// What asks for a place of its own may part a subject or cover another option: then no heading would be true.
+TEST_F(ProgramaMenu, LasMateriasSeRotulanDondeElOrdenLasJunta) {
+    const struct {
+        const char* cuando;
+        std::vector<std::pair<int, Opcion>> opciones;
+        std::vector<Cabecera> cabeceras;
+    } casos[] = {
+        {"one of each, a hole between",
+         {{0, {-1}}, {5, {-1, "", "3"}}},
+         {{Materia::Pensiones, Columna::Izquierda, 855},
+          {Materia::Subsidios, Columna::Izquierda, 2245},
+          {Materia::Consulta, Columna::Derecha, 4215}}},
+        {"a pension below the unemployment", {{0, {-1}}, {5, {-1, "", "3"}}, {1, {-1, "", "4"}}}, {}},
+        {"a pension in the other column", {{0, {-1}}, {8, {-1}}}, {}},
+        {"one over another", {{0, {-1}}, {1, {-1, "", "1"}}}, {}},
+        {"one off the panel", {{0, {-1, "", "-3"}}}, {}},
+    };
+    for (const auto& caso : casos) {
+        empiezaCon(caso.opciones);
+        const PlanoMenu plano = planoDelMenu(programa->opciones());
+        EXPECT_EQ(plano.cabeceras, caso.cabeceras) << caso.cuando;
+        const int esperado =
+            caso.cabeceras.empty() ? programa->opciones()[0].puesto.top() : 855 + kAltoCabecera;
+        EXPECT_EQ(plano.top[0], esperado) << caso.cuando;
     }
 }
 
