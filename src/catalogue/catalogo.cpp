@@ -29,7 +29,7 @@ constexpr std::array kCalculadoras{
     conSupuestos<MaterFrm>("maternidad", "MaterFrm", "Mater.nom", "ejemplos/Mater.nom"),
     conSupuestos<RiesgoEmbarazo>("riesgo", "RiesgoEmbarazo", "RiesgoEm.nom", "ejemplos/RiesgoEm.nom"),
     conSupuestos<NoConFrm>("nocontributiva", "NoConFrm", "nocont.nom", "nocont.nom"),
-    conSupuestos<FamiliarFrm>("familiar", "FamiliarFrm", "Familiar.nom"),
+    conSupuestos<FamiliarFrm>("familiar", "FamiliarFrm", "Familiar.nom", "ejemplos/Familiar.nom"),
     conSupuestos<CapitFrm>("capital", "CapitFrm", "Capit.nom", "Capit.nom"),
     conSupuestos<NominaFrm>("nomina", "NominaFrm", "nominas.nom", "ejemplos/nominas.nom"),
     conSupuestos<RetIrpfFrm>("irpf", "RetIrpfFrm", "RIRPF.nom", "ejemplos/RIRPF.nom"),
