@@ -34,7 +34,6 @@ double haciaAtras(int anios, const Vive& vive) {
     return anios <= 0 ? 0 : renta + 11.0 / 24 * (1 - queda);
 }
 
-/// 1e-10 apart at most.
 void esperaIgual(double uno, double otro, const char* tarifa, int x, int y = 0) {
     EXPECT_NEAR(uno, otro, 1e-10) << tarifa << ' ' << x << ' ' << y;
 }
@@ -82,17 +81,6 @@ TEST(Rentas, SinInteresSonLaEsperanzaDeVidaPublicada) {
     for (const auto& [x, vida] : {std::pair{17, 63.59}, {40, 42.55}, {65, 20.10}, {80, 8.87}, {100, 1.39}})
         EXPECT_NEAR(rentas.Tarifa1(x) + 1.0 / 24, vida, 0.005) << x;
     EXPECT_DOUBLE_EQ(rentas.Tarifa9(10, Veintiuno), 11);
-}
-
-TEST(Rentas, SiNadieMuereTodoEsCierto) {
-    const Rentas rentas{Mortalidad{}};
-    for (int x = 0; x <= 23; ++x) {
-        esperaIgual(rentas.Tarifa4(x, Veintitres), rentas.Tarifa9(x, Veintitres), "T4", x);
-        for (int y = 0; y <= 23; ++y) {
-            esperaIgual(rentas.Tarifa6(x, y), rentas.Tarifa9(y, Veintiuno), "T6", x, y);
-            esperaIgual(rentas.Tarifa7(x, y), rentas.Tarifa9(std::max(x, y), Veintitres), "T7", x, y);
-        }
-    }
 }
 
 /// Half of the invalids die each year, and twice as many in the second one: all of them.

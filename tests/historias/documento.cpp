@@ -89,7 +89,7 @@ class Lector {
 
   private:
     void lee(const std::string& linea) {
-        if (linea.empty() || linea.starts_with('#')) return;
+        if (linea.empty() || Recorta(linea).starts_with('#')) return;
         if (linea.starts_with("  ")) {
             leeDeSeccion(linea.substr(2));
         } else {
@@ -165,22 +165,32 @@ class Lector {
             historia.seGuarda = false;
         } else if (linea.starts_with(": ")) {
             historia.informe.push_back(linea.substr(2));
-        } else if (linea.starts_with("en ")) {
-            const Lineas partes = parte(linea, " ");
-            const std::string valor = linea.substr(linea.find(partes.at(2)) + partes[2].size());
-            historia.bytes.push_back({.posicion = static_cast<std::size_t>(numero(partes.at(1))),
-                                      .tipo = partes[2],
-                                      .valor = recorta(valor)});
         } else {
-            pon(historia.campos, asignacion(linea));
+            for (const std::string& dato : parte(linea, " ; ")) {
+                if (dato.starts_with("en ")) {
+                    historia.bytes.push_back(bytes(dato));
+                } else {
+                    pon(historia.campos, asignacion(dato));
+                }
+            }
         }
     }
 
+    /// "en 181 doble 8400".
+    static Bytes bytes(const std::string& dato) {
+        const Lineas partes = parte(dato, " ");
+        const std::string valor = dato.substr(dato.find(partes.at(2)) + partes[2].size());
+        return {.posicion = static_cast<std::size_t>(numero(partes.at(1))),
+                .tipo = partes[2],
+                .valor = recorta(valor)};
+    }
+
     /// A field that every story fills in keeps its turn.
-    static void pon(std::vector<Asignacion>& campos, const Asignacion& nuevo) {
-        const auto mismo =
-            std::ranges::find_if(campos, [&](const Asignacion& campo) { return campo.mismoCampo(nuevo); });
-        if (mismo == campos.end()) {
+    void pon(std::vector<Asignacion>& campos, const Asignacion& nuevo) const {
+        const auto siempre = campos.begin() + std::ssize(siempre_);
+        const auto mismo = std::find_if(campos.begin(), siempre,
+                                        [&](const Asignacion& campo) { return campo.mismoCampo(nuevo); });
+        if (mismo == siempre) {
             campos.push_back(nuevo);
         } else {
             mismo->valor = nuevo.valor;

@@ -60,7 +60,9 @@ class Usuario {
     void rellena(const Asignacion& a) {
         Campo& campo = this->campo(a);
         va(campo);
-        if (campo.def().clase == Clase::Casilla) {
+        if (campo.def().clase == Clase::Boton) {
+            EXPECT_TRUE(frm().pulsa(campo)) << a.campo;
+        } else if (campo.def().clase == Clase::Casilla) {
             frm().marca(campo, a.valor == "sí");
         } else if (!campo.opciones().empty()) {
             const auto opcion = std::ranges::find(
@@ -183,8 +185,8 @@ void compruebaLimites(Usuario& usuario, Campo& campo, const std::string& limites
         EXPECT_EQ(opciones, limites);
     } else if (letras != std::string::npos) {
         const auto largo = static_cast<std::size_t>(LeeEnteroRegional(limites.substr(0, letras)));
-        usuario.escribeYDeja(campo, std::string(largo + 1, 'x'));
-        EXPECT_EQ(campo.texto(), std::string(largo, 'x'));
+        usuario.escribeYDeja(campo, std::string(largo + 1, '8'));
+        EXPECT_EQ(campo.texto(), std::string(largo, '8'));
     } else if (a != std::string::npos) {
         const std::string minimo = limites.substr(0, a), maximo = limites.substr(a + 3);
         std::string tope = maximo;
@@ -266,7 +268,8 @@ TEST_P(Historias, EachFieldIsAsItsCardTells) {
 
 INSTANTIATE_TEST_SUITE_P(Todas, Historias,
                          testing::Values("jubilacion", "desempleo", "it", "maternidad", "riesgo",
-                                         "nocontributiva", "familiar", "capital", "incapacidad", "muerte"),
+                                         "nocontributiva", "familiar", "capital", "incapacidad", "muerte",
+                                         "irpf"),
                          [](const auto& documento) { return documento.param; });
 
 }  // namespace

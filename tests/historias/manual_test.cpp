@@ -1,17 +1,21 @@
-#pragma once
-
+// The stories of the user's manual are what the program says, with the data that ship.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <fstream>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "apoyo/entorno_falso.h"
+#include "catalogue/catalogo.h"
 #include "foundations/frame/asistente.h"
 
 namespace orvemo::pruebas {
+namespace {
 
 /// A worked story of the user's manual: a table "| Campo | Valor |" with what is written on each field, by
 /// its label without the colon (in a grid, by heading and row: "Desde 2"), and after it a block between "```"
@@ -21,15 +25,13 @@ struct CasoDelManual {
     std::string conclusion;  ///< lines ended by "\n"
 };
 
-namespace manual {
-
-inline std::string_view sinDosPuntos(std::string_view rotulo) {
+std::string_view sinDosPuntos(std::string_view rotulo) {
     const auto fin = rotulo.find_last_not_of(": ");
     return fin == std::string_view::npos ? rotulo : rotulo.substr(0, fin + 1);
 }
 
 /// How the manual names a field.
-inline std::string etiquetaDe(Asistente& frm, const Campo& campo) {
+std::string etiquetaDe(Asistente& frm, const Campo& campo) {
     const Grupo* grupo = campo.def().grupo;
     if (grupo == nullptr || grupo->def().encabezados.empty())
         return std::string{sinDosPuntos(campo.rotulo())};
@@ -44,7 +46,7 @@ inline std::string etiquetaDe(Asistente& frm, const Campo& campo) {
 }
 
 /// The field of the panel on view that bears the label; null without one.
-inline Campo* busca(Asistente& frm, const std::string& rotulo) {
+Campo* busca(Asistente& frm, const std::string& rotulo) {
     const auto esEse = [&](const Campo& campo) {
         return frm.enPantalla(campo) && etiquetaDe(frm, campo) == rotulo;
     };
@@ -53,14 +55,14 @@ inline Campo* busca(Asistente& frm, const std::string& rotulo) {
 }
 
 /// "| uno | dos |" in two.
-inline std::pair<std::string, std::string> celdas(std::string_view fila) {
+std::pair<std::string, std::string> celdas(std::string_view fila) {
     const auto medio = fila.find(" | ");
     const auto fin = fila.rfind(" |");
     return {std::string{fila.substr(2, medio - 2)}, std::string{fila.substr(medio + 3, fin - medio - 3)}};
 }
 
 /// The lines between a heading "## capitulo" and the next one.
-inline std::vector<std::string> lineasDe(const std::string& ruta, std::string_view capitulo) {
+std::vector<std::string> lineasDe(const std::string& ruta, std::string_view capitulo) {
     std::ifstream fichero{ruta};
     std::vector<std::string> lineas;
     bool dentro = false;
@@ -71,18 +73,16 @@ inline std::vector<std::string> lineasDe(const std::string& ruta, std::string_vi
     return lineas;
 }
 
-}  // namespace manual
-
 /// The stories that a chapter of the manual tells, in order.
-inline std::vector<CasoDelManual> casosDelManual(const std::string& ruta, std::string_view capitulo) {
+std::vector<CasoDelManual> casosDelManual(const std::string& ruta, std::string_view capitulo) {
     enum class Lugar { Texto, Tabla, Espera, Conclusion } lugar = Lugar::Texto;
     std::vector<CasoDelManual> casos;
-    for (const std::string& linea : manual::lineasDe(ruta, capitulo)) {
+    for (const std::string& linea : lineasDe(ruta, capitulo)) {
         if (lugar == Lugar::Texto && linea == "| Campo | Valor |") {
             casos.emplace_back();
             lugar = Lugar::Tabla;
         } else if (lugar == Lugar::Tabla && linea.starts_with("| ")) {
-            casos.back().campos.push_back(manual::celdas(linea));
+            casos.back().campos.push_back(celdas(linea));
         } else if (linea.empty() && lugar == Lugar::Tabla) {
             lugar = Lugar::Espera;
         } else if (linea == "```") {
@@ -95,11 +95,11 @@ inline std::vector<CasoDelManual> casosDelManual(const std::string& ruta, std::s
 }
 
 /// Writes on the field that bears the label, as the user would, going on to the panel where it stands.
-inline void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const std::string& valor) {
-    Campo* campo = manual::busca(frm, rotulo);
+void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const std::string& valor) {
+    Campo* campo = busca(frm, rotulo);
     while (campo == nullptr && frm.PantallaActual() + 1 < frm.ultimaPantalla()) {
         ASSERT_TRUE(frm.pulsa(frm.Siguiente)) << rotulo;
-        campo = manual::busca(frm, rotulo);
+        campo = busca(frm, rotulo);
     }
     ASSERT_NE(campo, nullptr) << "not on view: " << rotulo;
     ASSERT_TRUE(frm.foco(*campo)) << rotulo;
@@ -117,7 +117,7 @@ inline void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const
 }
 
 /// The conclusions of the case on screen, its line ends as "\n" and none missing at the end.
-inline std::string conclusionDelPrograma(Asistente& frm) {
+std::string conclusionDelPrograma(Asistente& frm) {
     for (int i = 0; i < frm.numPantallas() && frm.PantallaActual() != frm.ultimaPantalla(); ++i) {
         EXPECT_TRUE(frm.pulsa(frm.Siguiente));
     }
@@ -127,18 +127,45 @@ inline std::string conclusionDelPrograma(Asistente& frm) {
     return texto;
 }
 
-/// Fills the calculator with each story of the chapter and holds the manual to what the program says.
-template <typename Frm>
-void compruebaManual(Entorno& entorno, const std::string& ruta, std::string_view capitulo) {
-    SCOPED_TRACE(capitulo);
-    const auto casos = casosDelManual(ruta, capitulo);
-    ASSERT_FALSE(casos.empty()) << "the chapter tells no story";
-    for (const CasoDelManual& caso : casos) {
-        Frm frm{entorno};
-        frm.Inicia();
-        for (const auto& [rotulo, valor] : caso.campos) rellenaComoElManual(frm, rotulo, valor);
-        EXPECT_EQ(conclusionDelPrograma(frm), caso.conclusion);
+struct Capitulo {
+    const char* titulo;
+    const char* calculadora;
+};
+constexpr Capitulo kCapitulos[] = {
+    {"Jubilación", "jubilacion"},
+    {"Incapacidad permanente", "incapacidad"},
+    {"Muerte y supervivencia", "muerte"},
+    {"Desempleo", "desempleo"},
+    {"Incapacidad temporal", "it"},
+    {"Maternidad", "maternidad"},
+    {"Riesgo durante el embarazo", "riesgo"},
+    {"Jubilación e invalidez no contributivas", "nocontributiva"},
+    {"Protección familiar", "familiar"},
+    {"Capitalización de pensiones", "capital"},
+    {"Retenciones del IRPF", "irpf"},
+};
+
+TEST(Manual, TellsItsStoriesAsTheProgramDoes) {
+    EntornoFalso mundo;
+    const DirectorioAplicacion datos{ORVEMO_DATOS};
+    for (const char* fichero : {"ipc.txt", "tarif1.nom", "tarif4.nom", "tarif6.nom"})
+        mundo.almacen[fichero] = datos.leeTodo(fichero);
+    for (const auto& [titulo, calculadora] : kCapitulos) {
+        SCOPED_TRACE(titulo);
+        const auto casos = casosDelManual(ORVEMO_MANUAL, titulo);
+        EXPECT_FALSE(casos.empty()) << "the chapter tells no story";
+        const Calculadoras catalogo = CalculadorasDelPrograma();
+        const auto entrada = std::ranges::find(catalogo, calculadora, &EntradaCatalogo::clave);
+        for (const CasoDelManual& caso : casos) {
+            const auto abierta = entrada->registro.abre(mundo.entorno);
+            auto& frm = dynamic_cast<Asistente&>(*abierta);
+            frm.Inicia();
+            for (const auto& [rotulo, valor] : caso.campos) rellenaComoElManual(frm, rotulo, valor);
+            EXPECT_EQ(conclusionDelPrograma(frm), caso.conclusion);
+        }
     }
+    EXPECT_THAT(mundo.mensajes.dichos, testing::IsEmpty());
 }
 
+}  // namespace
 }  // namespace orvemo::pruebas
