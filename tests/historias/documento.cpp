@@ -122,7 +122,7 @@ class Lector {
         } else if (seccion_ == "frase") {
             frases_[frase_] += lineaDeTexto(linea);
         } else if (seccion_ == "siempre") {
-            siempre_.push_back(asignacion(linea));
+            pon(siempre_, asignacion(linea));
         } else if (seccion_ == "fichas") {
             documento.fichas.push_back(ficha(linea));
         } else if (seccion_ == "historia") {
@@ -170,7 +170,7 @@ class Lector {
                 if (dato.starts_with("en ")) {
                     historia.bytes.push_back(bytes(dato));
                 } else {
-                    pon(historia.campos, asignacion(dato));
+                    llena(historia.campos, asignacion(dato));
                 }
             }
         }
@@ -185,12 +185,21 @@ class Lector {
                 .valor = recorta(valor)};
     }
 
-    /// A field that every story fills in keeps its turn.
-    void pon(std::vector<Asignacion>& campos, const Asignacion& nuevo) const {
-        const auto siempre = campos.begin() + std::ssize(siempre_);
-        const auto mismo = std::find_if(campos.begin(), siempre,
-                                        [&](const Asignacion& campo) { return campo.mismoCampo(nuevo); });
-        if (mismo == siempre) {
+    /// A field that every story fills in keeps its turn; others may be filled in again and again.
+    void llena(std::vector<Asignacion>& campos, const Asignacion& nuevo) const {
+        const bool deSiempre =
+            std::ranges::any_of(siempre_, [&](const Asignacion& campo) { return campo.mismoCampo(nuevo); });
+        if (deSiempre) {
+            pon(campos, nuevo);
+        } else {
+            campos.push_back(nuevo);
+        }
+    }
+
+    static void pon(std::vector<Asignacion>& campos, const Asignacion& nuevo) {
+        const auto mismo =
+            std::ranges::find_if(campos, [&](const Asignacion& campo) { return campo.mismoCampo(nuevo); });
+        if (mismo == campos.end()) {
             campos.push_back(nuevo);
         } else {
             mismo->valor = nuevo.valor;

@@ -61,9 +61,9 @@ struct Documento {
 ///
 /// Lines at the margin open a section ("calculadora", "hoy", "ventana", "frase", "siempre", "fichas",
 /// "historia"), indented ones belong to it, and what begins with "#" to nobody. In a story "Campo = valor"
-/// fills a field in or presses a button ("siempre" holds those of every story), "| texto" is a line of the
-/// conclusions and "+ frase uno / otro" a sentence named before, its $1 and $2 replaced; a "\" at the end
-/// stands for no line end and "\s" for a blank. "mensaje ", ": " and "en POSICION TIPO VALOR" tell boxes,
+/// fills a field in or presses a button ("siempre" holds those of every story after it), "| texto" is a line
+/// of the conclusions and "+ frase uno / otro" a sentence named before, its $1 and $2 replaced; a "\" at the
+/// end stands for no line end and "\s" for a blank. "mensaje ", ": " and "en POSICION TIPO VALOR" tell boxes,
 /// printed lines and bytes; a case that can't be saved says "sin guardar". Fields and bytes may share a line,
 /// parted by " ; ".
 [[nodiscard]] Documento leeDocumento(const std::filesystem::path& ruta);

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -16,71 +15,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class CasoJubilacionTest : public pruebas::PantallaJubilacion {
-  protected:
-    /// Writes in every field that the record keeps.
-    void rellenaTodo() {
-        rellena();
-        frm.MuestraPantalla(0);
-        frm.elige(frm.JubiRegimen, 5);
-        escribe(frm.JubiRedJor, "12,5");
-        frm.marca(frm.JubiConyuge, true);
-        frm.marca(frm.JubiNoImputable, true);
-        sigue();
-        escribe(frm.HorasTP, "1000,5");
-        escribe(frm.HorasTP15, "500");
-        escribe(frm.periodos[9].PerHasta, "31-12-2003");
-        sigue();
-        frm.marca(frm.JubiBasesDesglosadas, true);
-        frm.JubiBaseActual.ponTexto("750,25");
-        frm.JubiBase(1).ponTexto("1234,5");
-        frm.JubiBase(196).ponTexto("7");
-    }
-};
-
-// --- Case file
-
-TEST_F(CasoJubilacionTest, ACaseLiesInTheFileByteByByte) {
-    rellenaTodo();
-    graba();
-    const std::string& bytes = mundo.almacen["jubila.nom"];
-    ASSERT_EQ(bytes.size(), 2592U);
-    const auto doble = [&](std::size_t en) {
-        double x = 0;
-        std::memcpy(&x, &bytes[en], 8);
-        return x;
-    };
-    EXPECT_EQ(bytes.substr(281, 10), std::string(10, '\0')) << "the eleventh row is never written";
-    EXPECT_EQ(bytes.substr(381, 10), "31-12-2003") << "the tenth row";
-    EXPECT_EQ(bytes[621], 1);
-    EXPECT_EQ(doble(622), 1234.5);
-    EXPECT_EQ(doble(622 + 8 * 195), 7);
-    EXPECT_EQ(bytes.substr(622 + 8 * 196, 8 * 44), std::string(8 * 44, '\0')) << "196 lines are stored";
-    EXPECT_EQ(doble(2550), 750.25);
-}
-
-TEST_F(CasoJubilacionTest, ASavedCaseComesBackAsItWas) {
-    rellenaTodo();
-    graba();
-    const std::string primero = mundo.almacen["jubila.nom"];
-
-    ASSERT_TRUE(frm.pulsa(frm.BotonNuevo));
-    EXPECT_EQ(frm.periodos[0].PerDesde.texto() + frm.JubiBase(1).texto(), "0");
-    EXPECT_FALSE(frm.JubiRedJor.visible());
-    vista.alCargar = [](CargaSupuesto& dialogo) {
-        dialogo.selecciona(0);
-        dialogo.BotonCargar();
-    };
-    ASSERT_TRUE(frm.pulsa(frm.BotonCarga));
-    EXPECT_EQ(frm.PantallaActual(), 0);
-    EXPECT_EQ(frm.JubiRegimen.texto(), "Jubilación Parcial");
-    EXPECT_TRUE(frm.JubiRedJor.visible());
-    EXPECT_EQ(frm.JubiBase(1).texto(), "1234,50") << "the text that the calculation reads";
-    EXPECT_FALSE(frm.JubiSumaBases.visible());
-    mundo.mensajes.respuestas = {true};
-    graba();
-    EXPECT_TRUE(mundo.almacen["jubila.nom"] == primero) << "saved again, the same bytes";
-}
+using CasoJubilacionTest = pruebas::PantallaJubilacion;
 
 TEST_F(CasoJubilacionTest, ARecordOfRubbishIsShownAndNothingFails) {
     mundo.almacen["jubila.nom"] = std::string(2592, '\xFF') + std::string(2592, '\0');
