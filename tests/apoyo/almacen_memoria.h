@@ -33,7 +33,8 @@ class AlmacenMemoria final : public Almacen {
   public:
     std::map<std::string, std::string> ficheros;  ///< by name in lower case
     bool soloLectura = false;
-    bool ilegible = false;  ///< files open and none of their bytes can be read
+    /// Reads that succeed before the disk fails; below 0 nothing even opens.
+    int lecturas = std::numeric_limits<int>::max();
     /// Bytes by which the files may still grow before the disk is full; what is written over others needs
     /// none.
     std::uint64_t sitio = std::numeric_limits<std::uint32_t>::max();
@@ -52,7 +53,7 @@ class AlmacenMemoria final : public Almacen {
     }
 
     [[nodiscard]] std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) override {
-        if (soloLectura && acceso == Acceso::Escritura) {
+        if (lecturas < 0 || (soloLectura && acceso == Acceso::Escritura)) {
             throw FicheroInaccesible{std::string{nombre}, "no se puede escribir"};
         }
         std::string& bytes = soloLectura && !existe(nombre) ? vacio_ : ficheros[clave(nombre)];
@@ -92,7 +93,8 @@ class AlmacenMemoria final : public Almacen {
             : almacen_{almacen}, nombre_{std::move(nombre)}, bytes_{bytes} {}
         [[nodiscard]] std::uint64_t longitud() override { return bytes_.size(); }
         std::size_t lee(std::uint64_t posicion, std::span<char> destino) override {
-            if (almacen_.ilegible) throw FicheroInaccesible{nombre_, "no se puede leer"};
+            if (almacen_.lecturas <= 0) throw FicheroInaccesible{nombre_, "no se puede leer"};
+            --almacen_.lecturas;
             if (posicion >= bytes_.size()) return 0;
             return bytes_.copy(destino.data(), destino.size(), posicion);
         }

@@ -221,10 +221,10 @@ TEST_F(DialogosTest, AFailedErasureIsToldAndTheDialogStays) {
 
 TEST_F(DialogosTest, AFileThatCannotBeListedStopsTheDialogBeforeItShows) {
     conCasos({"uno"});
-    almacen.ilegible = true;
+    almacen.lecturas = 0;
     EXPECT_THROW(graba.Inicia("Ana"), FicheroInaccesible);
     EXPECT_THROW(carga.Inicia(), FicheroInaccesible);
-    almacen.ilegible = false;
+    almacen.lecturas = 100;
     almacen["muerte.nom"].assign(33000 * kLongitud, ' ');
     EXPECT_THROW(graba.Inicia("Ana"), DemasiadosSupuestos);
     EXPECT_THROW(carga.Inicia(), DemasiadosSupuestos);

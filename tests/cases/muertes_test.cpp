@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 
+#include "apoyo/disco.h"
 #include "cases/archivo_supuestos.h"
 
 namespace orvemo {
@@ -43,14 +44,13 @@ bool estaEntero(std::string bytes) {
 }
 
 TEST(Muertes, TornNoRecordIn300) {
-    std::string plantilla = (fs::temp_directory_path() / "orvemo-muertes-XXXXXX").string();
-    ASSERT_NE(mkdtemp(plantilla.data()), nullptr);
-    DirectorioAplicacion directorio{plantilla};
+    const pruebas::CarpetaTemporal carpeta;
+    DirectorioAplicacion directorio{carpeta};
     ArchivoSupuestos archivo{directorio, "jubila.nom", kLongitud};
     std::minstd_rand azar{2005};
     for (int muerte = 1; muerte <= kMuertes; ++muerte) {
         const pid_t hijo = fork();
-        if (hijo == 0) escribeSinParar(plantilla);
+        if (hijo == 0) escribeSinParar(carpeta);
         usleep(static_cast<useconds_t>(500 + azar() % 4000));
         kill(hijo, SIGKILL);
         waitpid(hijo, nullptr, 0);
@@ -60,7 +60,6 @@ TEST(Muertes, TornNoRecordIn300) {
         ASSERT_FALSE(directorio.existe("jubila.nom.diario"));
     }
     EXPECT_GT(archivo.cuenta(), 1);
-    fs::remove_all(plantilla);
 }
 
 }  // namespace

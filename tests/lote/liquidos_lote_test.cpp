@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <filesystem>
 #include <sstream>
 #include <string>
 
+#include "apoyo/disco.h"
 #include "cases/archivo_supuestos.h"
 #include "catalogue/catalogo.h"
 #include "foundations/values/almacen.h"
@@ -14,21 +13,16 @@
 namespace orvemo::lote {
 namespace {
 
-namespace fs = std::filesystem;
-
 /// A case file of withholding with one worker born in 1965 who earns 30000 and depends on nobody.
 class LoteDeRetenciones : public testing::Test {
   protected:
     LoteDeRetenciones() {
-        fs::remove_all(lugar);
-        fs::create_directories(lugar);
         DirectorioAplicacion directorio{lugar};
         auto caso = irpf::pruebas::trabajador(30000);
         caso.Nombre.asigna("Ana");
         ArchivoSupuestos{directorio, "RIRPF.nom", irpf::kDiseno.longitud()}.agrega(
             irpf::kDiseno.escribe(caso));
     }
-    ~LoteDeRetenciones() override { fs::remove_all(lugar); }
 
     std::string ejecutaLote(const char* calculadora, int estado = kTodoCalculado) {
         opciones.calculadora = calculadora;
@@ -37,7 +31,7 @@ class LoteDeRetenciones : public testing::Test {
         return salida.str();
     }
 
-    fs::path lugar = fs::temp_directory_path() / ("orvemo-retenciones-" + std::to_string(::getpid()));
+    pruebas::CarpetaTemporal lugar;
     Opciones opciones{.fichero = lugar / "RIRPF.nom", .json = true};
     std::ostringstream salida, errores;
 };

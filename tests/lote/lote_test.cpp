@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QImage>
 #include <QJsonDocument>
@@ -13,6 +12,7 @@
 #include <sstream>
 #include <string>
 
+#include "apoyo/disco.h"
 #include "benefits/desempleo/desempleo_registro.h"
 #include "cases/archivo_supuestos.h"
 #include "catalogue/catalogo.h"
@@ -27,8 +27,6 @@ namespace fs = std::filesystem;
 class LoteTest : public testing::Test {
   protected:
     LoteTest() {
-        fs::remove_all(lugar);
-        fs::create_directories(lugar);
         DirectorioAplicacion directorio{lugar};
         ArchivoSupuestos archivo{directorio, "paro.nom", desempleo::kDiseno.longitud()};
         desempleo::RegistroDesempleo caso;
@@ -45,11 +43,10 @@ class LoteTest : public testing::Test {
         archivo.agrega(desempleo::kDiseno.escribe(caso));
         archivo.borra(2);
     }
-    ~LoteTest() override { fs::remove_all(lugar); }
 
     int ejecutaLote() { return ejecuta(opciones, CalculadorasDelPrograma(), lugar, salida, errores); }
 
-    fs::path lugar = fs::temp_directory_path() / ("orvemo-lote-" + std::to_string(::getpid()));
+    pruebas::CarpetaTemporal lugar;
     Opciones opciones{.calculadora = "desempleo", .fichero = lugar / "paro.nom"};
     std::ostringstream salida, errores;
 };
@@ -154,7 +151,7 @@ TEST_F(LoteTest, WhateverTheBytesEachCaseGivesALineOfJson) {
             bytes[i] = i < 2 * longitud ? '\0' : static_cast<char>(azar() >> 8U);
         for (std::size_t r = 0; r < bytes.size(); r += longitud)
             if (bytes[r] == kRegistroLibre) bytes[r] = ' ';
-        std::ofstream{lugar / "paro.nom", std::ios::binary} << bytes;
+        lugar.pon("paro.nom", bytes);
         opciones.calculadora = entrada.clave;
         salida.str({});
         const int estado = ejecutaLote();

@@ -3,13 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <fstream>
 #include <random>
 #include <sstream>
 
+#include "apoyo/disco.h"
 #include "cases/archivo_supuestos.h"
 #include "catalogue/catalogo.h"
 #include "lote/lineas.h"
@@ -22,13 +20,6 @@ using testing::HasSubstr;
 
 class TrasladoTest : public testing::Test {
   protected:
-    TrasladoTest() { fs::create_directories(lugar); }
-    ~TrasladoTest() override { fs::remove_all(lugar); }
-
-    [[nodiscard]] std::string contenido(const char* nombre) const {
-        std::ifstream flujo{lugar / nombre, std::ios::binary};
-        return {std::istreambuf_iterator<char>{flujo}, {}};
-    }
     [[nodiscard]] std::string exportado(const RegistroCatalogo& registro, const char* nombre) const {
         std::ostringstream salida;
         Exporta(registro, lugar / nombre, salida);
@@ -40,7 +31,7 @@ class TrasladoTest : public testing::Test {
         return Importa(registro, lugar / "destino.nom", entrada, errores);
     }
 
-    fs::path lugar = fs::temp_directory_path() / ("orvemo-traslado-" + std::to_string(::getpid()));
+    pruebas::CarpetaTemporal lugar;
     std::ostringstream errores;
 };
 
@@ -58,11 +49,11 @@ TEST_F(TrasladoTest, WhatIsExportedAndImportedIsTheSameByteForByte) {
         }
         for (std::size_t r = 0; r < 50; ++r)
             if (bytes[r * longitud] == kRegistroLibre) bytes[r * longitud] = ' ';
-        std::ofstream{lugar / "origen.nom", std::ios::binary} << bytes;
+        lugar.pon("origen.nom", bytes);
         fs::remove(lugar / "destino.nom");
         const std::string lineas = exportado(entrada.registro, "origen.nom");
         ASSERT_TRUE(importa(entrada.registro, lineas)) << entrada.clave << errores.str();
-        ASSERT_EQ(contenido("destino.nom"), bytes) << entrada.clave;
+        ASSERT_EQ(lugar.contenido("destino.nom"), bytes) << entrada.clave;
         ASSERT_EQ(exportado(entrada.registro, "destino.nom"), lineas);
     }
 }

@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 #include <random>
 
+#include "apoyo/disco.h"
 #include "shell/apoyo_shell.h"
 
 namespace orvemo::pruebas {
@@ -183,58 +183,16 @@ TEST_F(ProgramaInicio, ConfigNomAusenteSeCreaVacio) {
     EXPECT_EQ(vista.pedidos.back(), "título \"\"");
 }
 
-/// A disk that gives so many reads and fails from then on.
-class AlmacenQueFalla final : public Almacen {
-  public:
-    AlmacenQueFalla(AlmacenMemoria& almacen, int lecturas) : almacen_{almacen}, lecturas_{lecturas} {}
-
-    [[nodiscard]] bool existe(std::string_view nombre) const override { return almacen_.existe(nombre); }
-    [[nodiscard]] std::unique_ptr<FicheroAleatorio> abre(std::string_view nombre, Acceso acceso) override {
-        if (lecturas_ < 0) throw FicheroInaccesible{std::string{nombre}, "no se puede abrir"};
-        return std::make_unique<Abierto>(almacen_.abre(nombre, acceso), lecturas_);
-    }
-    [[nodiscard]] std::string leeHasta(std::string_view nombre, std::size_t maximo) const override {
-        return almacen_.leeHasta(nombre, maximo);
-    }
-    void sustituye(std::string_view, std::string_view) override {}
-    bool elimina(std::string_view) override { return false; }
-    [[nodiscard]] std::filesystem::path ruta(std::string_view nombre) const override {
-        return almacen_.ruta(nombre);
-    }
-
-  private:
-    class Abierto final : public FicheroAleatorio {
-      public:
-        Abierto(std::unique_ptr<FicheroAleatorio> bueno, int lecturas)
-            : bueno_{std::move(bueno)}, lecturas_{lecturas} {}
-        [[nodiscard]] std::uint64_t longitud() override { return bueno_->longitud(); }
-        std::size_t lee(std::uint64_t posicion, std::span<char> destino) override {
-            if (lecturas_-- == 0) throw FicheroInaccesible{"config.nom", "el disco falla"};
-            return bueno_->lee(posicion, destino);
-        }
-        std::size_t escribe(std::uint64_t, std::span<const char>) override { return 0; }
-        bool corta(std::uint64_t) override { return false; }
-
-      private:
-        std::unique_ptr<FicheroAleatorio> bueno_;
-        int lecturas_;
-    };
-
-    AlmacenMemoria& almacen_;
-    int lecturas_;
-};
-
 TEST_F(ProgramaInicio, UnaLecturaQueFallaDejaLoLeidoHastaAhi) {
     std::vector<std::pair<int, Opcion>> todas;
     for (int i = 0; i < 15; ++i) todas.push_back({i, {-1}});
     mundo.almacen["config.nom"] = fichero("PENSIONES", todas);
 
     for (int lecturas = -1; lecturas <= 16; ++lecturas) {
-        AlmacenQueFalla almacen{mundo.almacen, lecturas};
-        Entorno entorno{mundo.mensajes, mundo.reloj, almacen, mundo.impresora, mundo.rutinas, mundo.valores};
+        mundo.almacen.lecturas = lecturas;
         mundo.valores = {};
         mundo.valores.VerBaseActual = true;
-        Programa otro{entorno, {}, vista};
+        Programa otro{mundo.entorno, {}, vista};
         otro.Inicia();
 
         EXPECT_EQ(mundo.valores.TituloPrograma, lecturas > 0 ? "PENSIONES" : "") << lecturas;
@@ -250,37 +208,18 @@ TEST_F(ProgramaInicio, UnaLecturaQueFallaDejaLoLeidoHastaAhi) {
     EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
 }
 
-/// A directory of its own, and the current one put back at the end.
-class CarpetaTemporal {
-  public:
-    CarpetaTemporal() : antes_{std::filesystem::current_path()} {
-        std::string plantilla = (std::filesystem::temp_directory_path() / "orvemo-XXXXXX").string();
-        carpeta_ = mkdtemp(plantilla.data());
-    }
-    ~CarpetaTemporal() {
-        std::filesystem::current_path(antes_);
-        std::filesystem::remove_all(carpeta_);
-    }
-    CarpetaTemporal(const CarpetaTemporal&) = delete;
-    CarpetaTemporal& operator=(const CarpetaTemporal&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& ruta() const { return carpeta_; }
-
-  private:
-    std::filesystem::path antes_;
-    std::filesystem::path carpeta_;
-};
-
 TEST_F(ProgramaInicio, LaCarpetaDelProgramaPasaASerLaActual) {
     const CarpetaTemporal carpeta;
-    for (const char* foto : {"Portada.BMP", "logo.bmp"}) std::ofstream{carpeta.ruta() / foto} << "BM";
-    DirectorioAplicacion almacen{carpeta.ruta()};
+    const auto antes = std::filesystem::current_path();
+    for (const char* foto : {"Portada.BMP", "logo.bmp"}) carpeta.pon(foto, "BM");
+    DirectorioAplicacion almacen{carpeta};
     Entorno entorno{mundo.mensajes, mundo.reloj, almacen, mundo.impresora, mundo.rutinas, mundo.valores};
 
     Programa{entorno, {}, vista}.Inicia();
 
-    EXPECT_TRUE(std::filesystem::equivalent(std::filesystem::current_path(), carpeta.ruta()));
-    EXPECT_TRUE(std::filesystem::is_empty(carpeta.ruta() / "config.nom"));
+    EXPECT_TRUE(std::filesystem::equivalent(std::filesystem::current_path(), carpeta));
+    EXPECT_TRUE(std::filesystem::is_empty(carpeta / "config.nom"));
+    std::filesystem::current_path(antes);
 }
 
 }  // namespace

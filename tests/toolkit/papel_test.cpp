@@ -1,17 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QBuffer>
 #include <QPrinter>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "apoyo/almacen_memoria.h"
+#include "apoyo/disco.h"
 #include "printing/rutinas_impresion.h"
 #include "toolkit/impresora_pdf.h"
 #include "toolkit/tipos_letra.h"
@@ -21,6 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using pruebas::AlmacenMemoria;
+using pruebas::DiscoLleno;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -34,15 +31,6 @@ std::string salida(const QString& programa, const QStringList& argumentos) {
     EXPECT_TRUE(proceso.waitForFinished()) << programa.toStdString();
     EXPECT_EQ(proceso.exitCode(), 0) << proceso.readAllStandardError().toStdString();
     return proceso.readAllStandardOutput().toStdString();
-}
-
-std::string contenido(const fs::path& ruta) {
-    std::ifstream fichero{ruta, std::ios::binary};
-    return {std::istreambuf_iterator<char>{fichero}, {}};
-}
-
-void escribe(const fs::path& ruta, std::string_view texto) {
-    std::ofstream{ruta, std::ios::binary} << texto;
 }
 
 std::string logo() {
@@ -72,18 +60,6 @@ class PapelTest : public ::testing::Test {
         destino.EndDoc();
     }
 
-    [[nodiscard]] fs::path fichero(std::string_view nombre) const {
-        return fs::path{carpeta.path().toStdString()} / nombre;
-    }
-
-    [[nodiscard]] std::vector<fs::path> ficheros() const {
-        std::vector<fs::path> hallados;
-        for (const auto& entrada : fs::directory_iterator{carpeta.path().toStdString()}) {
-            hallados.push_back(entrada.path().filename());
-        }
-        return hallados;
-    }
-
     [[nodiscard]] static std::string texto(const fs::path& ruta) {
         return salida("pdftotext", {"-raw", "-enc", "UTF-8", QString::fromStdString(ruta.string()), "-"});
     }
@@ -94,7 +70,7 @@ class PapelTest : public ::testing::Test {
         return todo.substr(todo.find("<page"));
     }
 
-    QTemporaryDir carpeta;
+    pruebas::CarpetaTemporal carpeta;
     AlmacenMemoria almacen;
 };
 
@@ -108,11 +84,11 @@ constexpr std::string_view kTextoInforme =
     "\f";
 
 TEST_F(PapelTest, APdfGivesBackItsTextPagesFontsAndSheet) {
-    DestinoPdf pdf{almacen, fichero("informe.pdf"), "Jubilación"};
+    DestinoPdf pdf{almacen, carpeta / "informe.pdf", "Jubilación"};
     imprimeInforme(pdf);
-    EXPECT_EQ(texto(fichero("informe.pdf")), kTextoInforme);
+    EXPECT_EQ(texto(carpeta / "informe.pdf"), kTextoInforme);
 
-    const auto ruta = QString::fromStdString(fichero("informe.pdf").string());
+    const auto ruta = QString::fromStdString((carpeta / "informe.pdf").string());
     const std::string datos = salida("pdfinfo", {ruta});
     EXPECT_THAT(datos, HasSubstr("Title:           Jubilación\n"));
     EXPECT_THAT(datos, HasSubstr("Creator:         PENSIONES_ORVEMO\n"));
@@ -134,14 +110,14 @@ TEST_F(PapelTest, APrinterDrawsTheSame) {
     QPrinter impresora{QPrinter::HighResolution};
     impresora.setOutputFormat(QPrinter::PdfFormat);
     impresora.setPageSize(QPageSize{QPageSize::A4});
-    impresora.setOutputFileName(QString::fromStdString(fichero("impreso.pdf").string()));
+    impresora.setOutputFileName(QString::fromStdString((carpeta / "impreso.pdf").string()));
     Prueba destino{almacen, impresora};
     EXPECT_EQ(destino.Width(), 11906);
     imprimeInforme(destino);
-    EXPECT_EQ(texto(fichero("impreso.pdf")), kTextoInforme);
-    DestinoPdf pdf{almacen, fichero("informe.pdf"), "Jubilación"};
+    EXPECT_EQ(texto(carpeta / "impreso.pdf"), kTextoInforme);
+    DestinoPdf pdf{almacen, carpeta / "informe.pdf", "Jubilación"};
     imprimeInforme(pdf);
-    EXPECT_EQ(sitios(fichero("impreso.pdf")), sitios(fichero("informe.pdf")));
+    EXPECT_EQ(sitios(carpeta / "impreso.pdf"), sitios(carpeta / "informe.pdf"));
 
     impresora.setOutputFileName(QStringLiteral("/no/hay/tal/sitio.pdf"));
     EXPECT_THROW(imprimeInforme(destino), FalloImpresion);
@@ -162,7 +138,7 @@ TEST_F(PapelTest, SheetsAreMeasuredInWholeTwips) {
          16838},
     };
     for (const auto& caso : casos) {
-        const DestinoPdf pdf{almacen, fichero("x.pdf"), "", caso.papel};
+        const DestinoPdf pdf{almacen, carpeta / "x.pdf", "", caso.papel};
         EXPECT_EQ(pdf.Width(), caso.ancho) << caso.titulo;
         EXPECT_EQ(pdf.Height(), caso.alto) << caso.titulo;
     }
@@ -170,7 +146,7 @@ TEST_F(PapelTest, SheetsAreMeasuredInWholeTwips) {
 
 TEST_F(PapelTest, TextsAreMeasuredInTheFontsTheyWillHave) {
     ASSERT_TRUE(fuentesInstaladas());
-    DestinoPdf pdf{almacen, fichero("x.pdf"), ""};
+    DestinoPdf pdf{almacen, carpeta / "x.pdf", ""};
     pdf.Font({.nombre = "Courier New", .tamano = 10});
     // Letters of 1229 units in 2048.
     EXPECT_NEAR(pdf.TextWidth("1234567890"), 10 * 10 * 1229.0 / 2048 / kPuntosPorCentimetro, 0.005);
@@ -185,7 +161,7 @@ TEST_F(PapelTest, TextsAreMeasuredInTheFontsTheyWillHave) {
 }
 
 TEST_F(PapelTest, PrintingMovesAlongOrDown) {
-    DestinoPdf pdf{almacen, fichero("x.pdf"), ""};
+    DestinoPdf pdf{almacen, carpeta / "x.pdf", ""};
     pdf.Font({.nombre = "Arial", .tamano = 12});
     pdf.CurrentX(1.5F);
     pdf.CurrentY(2.0F);
@@ -226,7 +202,7 @@ TEST(HojaTest, WhatPassesThePrintableEdgeIsBroughtBack) {
 }
 
 TEST_F(PapelTest, AnOverlongLineEndsWithinThePaperWithAllItsLetters) {
-    DestinoPdf pdf{almacen, fichero("larga.pdf"), ""};
+    DestinoPdf pdf{almacen, carpeta / "larga.pdf", ""};
     RutinasImpresion rutinas;
     rutinas.empieza(pdf);
     rutinas.ImprimeCabecera(1);
@@ -235,9 +211,9 @@ TEST_F(PapelTest, AnOverlongLineEndsWithinThePaperWithAllItsLetters) {
     const std::string cabe{rutinas.TextoQueCabe(larga, rutinas.AnchoImpresion() - 1)};
     rutinas.ImprimeTexto(larga, 1.0F, 0.6F);
     pdf.EndDoc();
-    EXPECT_EQ(texto(fichero("larga.pdf")), cabe + "\n\f");
+    EXPECT_EQ(texto(carpeta / "larga.pdf"), cabe + "\n\f");
 
-    const QString caja = QString::fromStdString(sitios(fichero("larga.pdf")));
+    const QString caja = QString::fromStdString(sitios(carpeta / "larga.pdf"));
     const auto borde = [&](const QString& nombre) {
         return caja.section(nombre + "=\"", 1).section('"', 0, 0).toDouble() / kPuntosPorCentimetro;
     };
@@ -250,15 +226,15 @@ TEST_F(PapelTest, AnOverlongLineEndsWithinThePaperWithAllItsLetters) {
 
 TEST_F(PapelTest, ADocumentThrownAwayLeavesNoFile) {
     {
-        DestinoPdf olvidado{almacen, fichero("olvidado.pdf"), ""};
+        DestinoPdf olvidado{almacen, carpeta / "olvidado.pdf", ""};
         olvidado.Print("algo", true);
     }
-    EXPECT_THAT(ficheros(), ElementsAre());
+    EXPECT_THAT(carpeta.ficheros(), ElementsAre());
 }
 
 TEST_F(PapelTest, AFileThatCantBeWrittenIsNamed) {
-    fs::create_directory(fichero("carpeta.pdf"));
-    for (const fs::path& ruta : {fichero("no/existe.pdf"), fichero("carpeta.pdf"), fs::path{}}) {
+    fs::create_directory(carpeta / "carpeta.pdf");
+    for (const fs::path& ruta : {carpeta / "no/existe.pdf", carpeta / "carpeta.pdf", fs::path{}}) {
         DestinoPdf pdf{almacen, ruta, ""};
         pdf.Print("algo", true);
         try {
@@ -268,41 +244,21 @@ TEST_F(PapelTest, AFileThatCantBeWrittenIsNamed) {
             EXPECT_EQ(fallo.what(), "no se puede escribir el fichero «" + ruta.string() + "»");
         }
     }
-    EXPECT_THAT(ficheros(), ElementsAre("carpeta.pdf"));
+    EXPECT_THAT(carpeta.ficheros(), ElementsAre("carpeta.pdf"));
 }
 
-/// No file can grow past so many bytes while this lives.
-class DiscoLleno {
-  public:
-    explicit DiscoLleno(rlim_t bytes) : senal_{std::signal(SIGXFSZ, SIG_IGN)} {
-        getrlimit(RLIMIT_FSIZE, &antes_);
-        const rlimit ahora{bytes, antes_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &ahora);
-    }
-    ~DiscoLleno() {
-        setrlimit(RLIMIT_FSIZE, &antes_);
-        std::signal(SIGXFSZ, senal_);
-    }
-    DiscoLleno(const DiscoLleno&) = delete;
-    DiscoLleno& operator=(const DiscoLleno&) = delete;
-
-  private:
-    rlimit antes_{};
-    void (*senal_)(int);
-};
-
 TEST_F(PapelTest, AFullDiskLeavesTheOldFile) {
-    escribe(fichero("informe.pdf"), "el de antes");
+    carpeta.pon("informe.pdf", "el de antes");
     for (const rlim_t sitio : {0, 1, 2, 100, 4096, 8191}) {
-        DestinoPdf pdf{almacen, fichero("informe.pdf"), ""};
+        DestinoPdf pdf{almacen, carpeta / "informe.pdf", ""};
         const DiscoLleno lleno{sitio};
         EXPECT_THROW(imprimeInforme(pdf), FalloImpresion) << sitio;
     }
-    EXPECT_EQ(contenido(fichero("informe.pdf")), "el de antes");
-    EXPECT_THAT(ficheros(), ElementsAre("informe.pdf")) << "nothing half written beside it";
-    ImpresoraPdf impresora{almacen, fichero("informe.pdf")};
+    EXPECT_EQ(carpeta.contenido("informe.pdf"), "el de antes");
+    EXPECT_THAT(carpeta.ficheros(), ElementsAre("informe.pdf")) << "nothing half written beside it";
+    ImpresoraPdf impresora{almacen, carpeta / "informe.pdf"};
     imprimeInforme(*impresora.elige("Jubilación"));
-    EXPECT_EQ(texto(fichero("informe.pdf")), kTextoInforme);
+    EXPECT_EQ(texto(carpeta / "informe.pdf"), kTextoInforme);
 }
 
 TEST_F(PapelTest, APictureThatIsNoneIsNamed) {
@@ -311,7 +267,7 @@ TEST_F(PapelTest, APictureThatIsNoneIsNamed) {
     EXPECT_EQ(imagen.alto, 30);
     almacen["roto.bmp"] = "BM y nada más";
     EXPECT_THROW(std::ignore = imagenDe(almacen, "roto.bmp"), FalloImpresion);
-    DestinoPdf pdf{almacen, fichero("x.pdf"), ""};
+    DestinoPdf pdf{almacen, carpeta / "x.pdf", ""};
     EXPECT_THROW(pdf.PaintPicture({.nombre = "roto.bmp"}, 0, 0, 1, 1), FalloImpresion);
     EXPECT_THROW(pdf.PaintPicture({.nombre = "roto.bmp"}, 0, 0, 1, 1), FalloImpresion)
         << "not even the second time";

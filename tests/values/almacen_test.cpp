@@ -1,15 +1,11 @@
 #include "foundations/values/almacen.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <algorithm>
-#include <csignal>
-#include <fstream>
 #include <vector>
 
+#include "apoyo/disco.h"
 #include "foundations/values/fallos.h"
 
 namespace orvemo {
@@ -17,52 +13,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// No file grows beyond so many bytes while this lives, as on a disk that is full from there on.
-class DiscoLleno {
-  public:
-    explicit DiscoLleno(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &antes_);
-        rlimit ahora = antes_;
-        ahora.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &ahora);
-    }
-    DiscoLleno(const DiscoLleno&) = delete;
-    DiscoLleno& operator=(const DiscoLleno&) = delete;
-    ~DiscoLleno() {
-        setrlimit(RLIMIT_FSIZE, &antes_);
-        std::signal(SIGXFSZ, senal_);
-    }
-
-  private:
-    rlimit antes_{};
-    void (*senal_)(int) = std::signal(SIGXFSZ, SIG_IGN);
-};
+using pruebas::DiscoLleno;
 
 class EnDirectorio : public testing::Test {
   protected:
-    void SetUp() override {
-        std::string plantilla = (fs::temp_directory_path() / "orvemo-XXXXXX").string();
-        ASSERT_NE(nullptr, mkdtemp(plantilla.data()));
-        carpeta = plantilla;
-    }
-    void TearDown() override { fs::remove_all(carpeta); }
+    void pon(const std::string& nombre, std::string_view contenido) const { carpeta.pon(nombre, contenido); }
 
-    void pon(const std::string& nombre, std::string_view contenido) const {
-        std::ofstream{carpeta / nombre, std::ios::binary} << contenido;
-    }
-    [[nodiscard]] std::string contenido(const std::string& nombre) const {
-        std::ifstream flujo{carpeta / nombre, std::ios::binary};
-        return {std::istreambuf_iterator<char>{flujo}, {}};
-    }
-    [[nodiscard]] std::vector<std::string> ficheros() const {
-        std::vector<std::string> nombres;
-        for (const auto& entrada : fs::directory_iterator{carpeta})
-            nombres.push_back(entrada.path().filename());
-        std::sort(nombres.begin(), nombres.end());
-        return nombres;
-    }
-
-    fs::path carpeta;
+    pruebas::CarpetaTemporal carpeta;
 };
 
 std::string lee(FicheroAleatorio& fichero, std::uint64_t posicion, std::size_t cuantos) {
@@ -135,7 +92,7 @@ TEST_F(EnDirectorio, RecordsAreReadAndWrittenAnywhere) {
         EXPECT_EQ("aXYd", lee(*fichero, 0, 10)) << "fewer bytes at the end of the file";
         EXPECT_EQ("", lee(*fichero, 50, 10)) << "none beyond it";
         EXPECT_EQ(1U, fichero->escribe(6, std::string{"z"})) << "NULs fill the gap";
-        EXPECT_EQ(std::string("aXYd\0\0z", 7), contenido("caso.nom")) << "on disk while still open";
+        EXPECT_EQ(std::string("aXYd\0\0z", 7), carpeta.contenido("caso.nom")) << "on disk while still open";
         EXPECT_TRUE(fichero->corta(3));
         EXPECT_EQ(3U, fichero->longitud());
     }
@@ -146,7 +103,7 @@ TEST_F(EnDirectorio, OpeningCreatesWhatIsAbsent) {
     DirectorioAplicacion directorio{carpeta};
     EXPECT_EQ(0U, directorio.abre("leido.nom", Acceso::Lectura)->longitud());
     EXPECT_EQ(0U, directorio.abre("escrito.nom", Acceso::Escritura)->longitud());
-    EXPECT_EQ((std::vector<std::string>{"escrito.nom", "leido.nom"}), ficheros());
+    EXPECT_EQ((std::vector<std::string>{"escrito.nom", "leido.nom"}), carpeta.ficheros());
     pon("lleno.nom", "abc");
     EXPECT_EQ(3U, directorio.abre("lleno.nom", Acceso::Escritura)->longitud()) << "and empties nothing";
 }
@@ -186,7 +143,7 @@ TEST_F(EnDirectorio, WhatIsNoFileIsRefusedAndSaysWhatItIs) {
     ASSERT_EQ(0, mkfifo((carpeta / "fifo.nom").c_str(), 0600));
     fs::create_symlink("/dev/zero", carpeta / "cero.nom");
     fs::create_symlink("bucle.nom", carpeta / "bucle.nom");
-    const std::vector<std::string> antes = ficheros();
+    const std::vector<std::string> antes = carpeta.ficheros();
     DirectorioAplicacion directorio{carpeta};
     struct {
         const char* nombre;
@@ -203,7 +160,7 @@ TEST_F(EnDirectorio, WhatIsNoFileIsRefusedAndSaysWhatItIs) {
         EXPECT_EQ(esperado, fallo([&] { directorio.sustituye(nombre, "x"); }));
         EXPECT_EQ(esperado, fallo([&] { (void)AbreParaLeer(carpeta / nombre); }));
     }
-    EXPECT_EQ(antes, ficheros());
+    EXPECT_EQ(antes, carpeta.ficheros());
     ASSERT_EQ(0, mkfifo((carpeta / "config.nom.nuevo").c_str(), 0600));
     EXPECT_EQ(noSePuedeUsar("config.nom", "config.nom.nuevo es una tubería"),
               fallo([&] { directorio.sustituye("config.nom", "x"); }));
@@ -249,13 +206,13 @@ TEST_F(EnDirectorio, AReplacementIsWholeOrDoesNotHappen) {
         const DiscoLleno disco{caben};
         EXPECT_EQ(noSePuedeUsar("Config.nom", "no cabe en el disco"),
                   fallo([&] { directorio.sustituye("config.nom", nuevo); }));
-        EXPECT_EQ("lo de antes", contenido("Config.nom")) << caben;
-        EXPECT_EQ((std::vector<std::string>{"Config.nom"}), ficheros()) << caben;
+        EXPECT_EQ("lo de antes", carpeta.contenido("Config.nom")) << caben;
+        EXPECT_EQ((std::vector<std::string>{"Config.nom"}), carpeta.ficheros()) << caben;
     }
     directorio.sustituye("config.nom", nuevo);
     directorio.sustituye("otro.nom", "");
-    EXPECT_EQ(nuevo, contenido("Config.nom"));
-    EXPECT_EQ((std::vector<std::string>{"Config.nom", "otro.nom"}), ficheros());
+    EXPECT_EQ(nuevo, carpeta.contenido("Config.nom"));
+    EXPECT_EQ((std::vector<std::string>{"Config.nom", "otro.nom"}), carpeta.ficheros());
 }
 
 TEST_F(EnDirectorio, AReplacementKeepsLinksAndPermissions) {
@@ -265,7 +222,7 @@ TEST_F(EnDirectorio, AReplacementKeepsLinksAndPermissions) {
     fs::create_symlink("datos/config.nom", carpeta / "config.nom");
     DirectorioAplicacion{carpeta}.sustituye("config.nom", "despues");
     EXPECT_TRUE(fs::is_symlink(carpeta / "config.nom"));
-    EXPECT_EQ("despues", contenido("datos/config.nom"));
+    EXPECT_EQ("despues", carpeta.contenido("datos/config.nom"));
     EXPECT_EQ(fs::perms::owner_all | fs::perms::others_read,
               fs::status(carpeta / "datos/config.nom").permissions());
 }
