@@ -79,13 +79,16 @@ int LineaCampo::anchura() const {
     return kAnchuraTexto;
 }
 
+int LineaCampo::anchoDelTexto() const {
+    return fontMetrics().horizontalAdvance(QString{anchura(), QLatin1Char('0')});
+}
+
 QSize LineaCampo::sizeHint() const {
     QStyleOptionFrame opcion;
     initStyleOption(&opcion);
     const QMargins margenes = textMargins();
-    const int texto = fontMetrics().horizontalAdvance(QString{anchura(), QLatin1Char('0')});
     const QSize contenido{
-        texto + margenes.left() + margenes.right() + 2 * opcion.lineWidth + px(kRellenoCampo),
+        anchoDelTexto() + margenes.left() + margenes.right() + 2 * opcion.lineWidth + px(kRellenoCampo),
         fontMetrics().height()};
     return style()->sizeFromContents(QStyle::CT_LineEdit, &opcion, contenido, this);
 }
@@ -99,12 +102,17 @@ QSize LineaCampo::minimumSizeHint() const {
 
 void LineaCampo::refrescaValor() {
     muestra(aQt(editando_ ? campo().texto() : campo().presentacion()));
-    if (isReadOnly()) setAlignment((esLetra(text()) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    if (!isReadOnly()) return;
+    setAlignment((esLetra(text()) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    // A result that its place cuts tells itself whole.
+    const bool cabe = fontMetrics().horizontalAdvance(text()) <= anchoDelTexto();
+    setToolTip(cabe ? aQt(campo().def().ayuda) : text());
 }
 
 void LineaCampo::muestra(const QString& texto) {
     if (texto == text()) return;
-    const bool todo = hasSelectedText() && selectedText() == text();
+    // Of a blank field all is selected: what is proposed as it is entered goes when the first key is typed.
+    const bool todo = selectedText() == text();
     const auto trasElCursor = text().size() - cursorPosition();
     mostrando_ = true;
     setText(texto);

@@ -28,6 +28,8 @@ class LineaCampo : public QLineEdit, public Control {
 
     /// Characters that the field is wide enough to show.
     [[nodiscard]] virtual int anchura() const;
+    /// Pixels of so many characters.
+    [[nodiscard]] int anchoDelTexto() const;
 
   private:
     void teclea(const QString& texto);

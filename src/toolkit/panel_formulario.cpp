@@ -190,15 +190,15 @@ void PanelFormulario::cuentaLosDeCadaFila(std::vector<Bloque>& bloques) {
     }
 }
 
-/// A group stands below what is before it, or at the right of the group before it. Frames share the width
-/// evenly; without them each group takes what it needs.
-void PanelFormulario::coloca(QWidget* marco, bool alLado, bool conTitulo) {
+/// A group stands below what is before it, or at the right of the group before it. They share the width evenly,
+/// unless one needs more.
+void PanelFormulario::coloca(QWidget* marco, bool alLado) {
     if (!alLado || fila_ == nullptr) {
         fila_ = new QHBoxLayout;
         fila_->setSpacing(px(kHuecoColumnas));
         static_cast<QVBoxLayout*>(layout())->addLayout(fila_);
     }
-    fila_->addWidget(marco, conTitulo ? 1 : 0);
+    fila_->addWidget(marco);
 }
 
 QGridLayout* PanelFormulario::nuevaRejilla(QWidget* marco) const {
@@ -225,7 +225,7 @@ void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
     QWidget* marco = conTitulo ? new QGroupBox{this} : new QWidget{this};
     marco->setObjectName(aQt(def.nombre));
     marcos_[&grupo] = marco;
-    coloca(marco, def.alLado, conTitulo);
+    coloca(marco, def.alLado);
     auto* rejilla = nuevaRejilla(marco);
     if (!conTitulo) rejilla->setContentsMargins(0, 0, 0, 0);
     switch (def.disposicion) {

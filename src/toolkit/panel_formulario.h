@@ -35,7 +35,7 @@ class PanelFormulario final : public QWidget {
 
     [[nodiscard]] std::vector<Bloque> bloques(int pantalla) const;
     static void cuentaLosDeCadaFila(std::vector<Bloque>& bloques);
-    void coloca(QWidget* marco, bool alLado, bool conTitulo);
+    void coloca(QWidget* marco, bool alLado);
     [[nodiscard]] QGridLayout* nuevaRejilla(QWidget* marco) const;
     void agregaSueltos(const Filas& filas);
     void agregaGrupo(const Grupo& grupo, const Filas& filas);
