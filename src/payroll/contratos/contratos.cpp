@@ -73,7 +73,7 @@ ContratoNomina leeContrato(std::string Codigo, std::string linea, const Recargo&
 
 Contratos::Contratos(std::string_view contenido) {
     std::string clase;
-    CadaLinea(contenido, [&](std::string linea) { leeLinea(std::move(linea), clase); });
+    CadaLinea(kFicheroContratos, contenido, [&](std::string linea) { leeLinea(std::move(linea), clase); });
 }
 
 void Contratos::leeLinea(std::string linea, std::string& clase) {

@@ -37,8 +37,7 @@ struct ItemContrato {
 /// The types of contract and their groups.
 class Contratos {
   public:
-    /// Reads the whole text of "CONTRATO.NOM", Windows-1252. Throws DesbordeNumerico for years that fit no
-    /// counter.
+    /// Reads the whole text of "CONTRATO.NOM", Windows-1252. Throws FicheroMalFormado.
     explicit Contratos(std::string_view contenido = {});
 
     [[nodiscard]] const std::vector<std::string>& grupos() const { return grupos_; }

@@ -32,7 +32,8 @@ double cuota(double Base, double tipo) {
 }  // namespace
 
 Epigrafes::Epigrafes(std::string_view contenido) {
-    CadaLinea(contenido, [&](std::string linea) { filas_.push_back(leeEpigrafe(std::move(linea))); });
+    CadaLinea(kFicheroEpigrafes, contenido,
+              [&](std::string linea) { filas_.push_back(leeEpigrafe(std::move(linea))); });
 }
 
 std::vector<std::string> Epigrafes::lista() const {

@@ -18,7 +18,7 @@ struct Epigrafe {
 
 class Epigrafes {
   public:
-    /// Reads the whole text of "EPIG.NOM", Windows-1252.
+    /// Reads the whole text of "EPIG.NOM", Windows-1252. Throws FicheroMalFormado.
     explicit Epigrafes(std::string_view contenido = {});
 
     [[nodiscard]] const std::vector<Epigrafe>& filas() const { return filas_; }

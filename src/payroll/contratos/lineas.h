@@ -1,18 +1,32 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
+#include "foundations/values/fallos.h"
 #include "foundations/values/textos.h"
 
 namespace orvemo::nomina {
 
-/// Calls `accion` with each line of a Windows-1252 text, in UTF-8 and without its end.
-void CadaLinea(std::string_view contenido, auto&& accion) {
-    while (!contenido.empty()) {
-        const std::string_view linea = contenido.substr(0, contenido.find('\n'));
+/// What no list that somebody wrote holds; a tab and the end mark of old editors it may.
+[[nodiscard]] inline bool esDeTexto(char c) {
+    return static_cast<unsigned char>(c) >= ' ' || c == '\t' || c == '\x1A';
+}
+
+/// Calls `accion` with each line of a list, a Windows-1252 text, in UTF-8 and without its end. Throws
+/// FicheroMalFormado for a line that is no text or that `accion` can't read.
+void CadaLinea(std::string_view fichero, std::string_view contenido, auto&& accion) {
+    for (int numero = 1; !contenido.empty(); ++numero) {
+        std::string_view linea = contenido.substr(0, contenido.find('\n'));
         contenido.remove_prefix(linea.size() == contenido.size() ? linea.size() : linea.size() + 1);
-        accion(De1252(linea.ends_with('\r') ? linea.substr(0, linea.size() - 1) : linea));
+        if (linea.ends_with('\r')) linea.remove_suffix(1);
+        try {
+            if (!std::ranges::all_of(linea, esDeTexto)) throw Fallo{"no es un texto"};
+            accion(De1252(linea));
+        } catch (const Fallo& fallo) {
+            throw FicheroMalFormado{std::string{fichero}, numero, fallo.what()};
+        }
     }
 }
 
