@@ -61,6 +61,10 @@ std::string SituacionesEspeciales(const EstadoNomina& Estado, const RegistroNomi
     return codigos;
 }
 
+double BaseRecaudacionConjunta(const EstadoNomina& Estado) {
+    return Estado.entradas.tieneCuotasFijas() ? Estado.bases.BaseParo : Estado.bases.BaseParoSinMat;
+}
+
 Recibo PreparaRecibo(const EstadoNomina& Estado, const RegistroNomina& Registro) {
     Recibo recibo;
     repartePorGrupos(Estado, Registro, recibo);

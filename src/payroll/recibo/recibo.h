@@ -28,6 +28,10 @@ struct Recibo {
 
 [[nodiscard]] Recibo PreparaRecibo(const EstadoNomina& Estado, const RegistroNomina& Registro);
 
+/// Base for professional contingencies and joint collection that the receipt tells: without the maternity
+/// days, but in training contracts, whose base is one and the same for all.
+[[nodiscard]] double BaseRecaudacionConjunta(const EstadoNomina& Estado);
+
 /// Codes of the worker's special situations on the contribution form, six characters: strike, reduced hours,
 /// partial unemployment, unpaid leave and monthly pay in a group paid by the day, from the left, no gaps.
 [[nodiscard]] std::string SituacionesEspeciales(const EstadoNomina& Estado, const RegistroNomina& Registro);

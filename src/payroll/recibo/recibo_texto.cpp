@@ -104,7 +104,7 @@ void escribeBases(const EstadoNomina& Estado, Hoja& hoja) {
     hoja.linea("Prorrata de pagas extraordinarias", b.BaseCCProrrata - b.AcumBaseCC);
     hoja.linea("Contingencias comunes", Estado.cuotasCC.BaseReciboCC);
     hoja.lineaSiHay("Contingencias comunes, desempleo parcial", Estado.cuotasCC.BaseReciboCCParcial);
-    hoja.linea("Contingencias profesionales y recaudación conjunta", b.BaseParoSinMat);
+    hoja.linea("Contingencias profesionales y recaudación conjunta", BaseRecaudacionConjunta(Estado));
     hoja.lineaSiHay("Recaudación conjunta, desempleo parcial", b.BaseParcial);
     hoja.lineaSiHay("Horas extraordinarias", Estado.devengos.HorasExtraFM + Estado.devengos.HorasExtraResto);
     hoja.linea("Base sujeta a retención del IRPF", Estado.devengos.BaseIRPF);

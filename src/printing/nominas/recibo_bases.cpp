@@ -71,7 +71,7 @@ std::string conEpigrafe(std::string texto, const DatosRecibo& d, std::string_vie
 }
 
 void escribeBasesProfesionales(const DatosRecibo& datos, HojaImpresa& hoja) {
-    const double base = datos.de.estado.bases.BaseParoSinMat;
+    const double base = BaseRecaudacionConjunta(datos.de.estado);
     hoja.escribe({2.4, 24.0, kCuerpo},
                  "2. Base de cotización por contingencias profesionales (AT y EP) y con-");
     if (datos.entradas().tieneCuotasFijas()) {
