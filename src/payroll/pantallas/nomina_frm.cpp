@@ -18,19 +18,36 @@ using namespace nomina;
 namespace {
 
 // Characters that the fields show: the panels are dense.
-constexpr int kAnchoLista = 30;
-constexpr int kAnchoTexto = 26;
+constexpr std::size_t kLargoNombre = 80;
+constexpr int kAnchoLista = 28;
+constexpr int kAnchoListaCorta = 18;
+constexpr int kAnchoConcepto = 25;
 constexpr int kAnchoIncidencia = 15;
 constexpr int kAnchoNumero = 10;
 
-// Stored with the blanks that the list has had since ever.
+// Stored with the blanks that the list has had since ever, 41 characters each.
+// clang-format off
 const std::vector<std::string> kCategorias{
-    "1. Ingenieros y licenciados             ", "2. Ing. técnicos, peritos y ayud. titul. ",
-    "3. Jefes administrativos y de taller    ", "4. Ayudantes no titulados               ",
-    "5. Oficiales administrativos            ", "6. Subalternos                          ",
-    "7. Auxiliares administrativos           ", "8. Oficiales de 1ª y 2ª                 ",
-    "9. Oficiales de 3ª y especialistas      ", "10. Peones                               ",
-    "11. Trabajadores menores de 18 años      "};
+    "1. Ingenieros y licenciados              ",
+    "2. Ing. técnicos, peritos y ayud. titul. ",
+    "3. Jefes administrativos y de taller     ",
+    "4. Ayudantes no titulados                ",
+    "5. Oficiales administrativos             ",
+    "6. Subalternos                           ",
+    "7. Auxiliares administrativos            ",
+    "8. Oficiales de 1ª y 2ª                  ",
+    "9. Oficiales de 3ª y especialistas       ",
+    "10. Peones                               ",
+    "11. Trabajadores menores de 18 años      ",
+};
+// clang-format on
+
+DefCampo defCifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice, int anchura) {
+    DefCampo def = resultado(std::move(nombre), std::move(rotulo), {}, anchura, &grupo);
+    def.indice = indice;
+    def.pantalla = grupo.def().pantalla;
+    return def;
+}
 
 const std::vector<std::string> kMeses{" 1. Enero",      " 2. Febrero", " 3. Marzo",     " 4. Abril",
                                       " 5. Mayo",       " 6. Junio",   " 7. Julio",     " 8. Agosto",
@@ -93,22 +110,16 @@ Campo& NominaFrm::fecha(std::string nombre, std::string rotulo, DefCampo sitio) 
     return nuevo(std::move(sitio));
 }
 
-/// A figure that only the program writes.
-Campo& NominaFrm::cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice, int anchura) {
-    DefCampo def = resultado(std::move(nombre), std::move(rotulo), {}, anchura, &grupo);
-    def.indice = indice;
-    def.pantalla = grupo.def().pantalla;
-    return nuevo(std::move(def));
+/// A figure or a text that only the program writes.
+void NominaFrm::cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice, int anchura) {
+    nuevo(defCifra(std::move(nombre), std::move(rotulo), grupo, indice, anchura));
 }
 
-/// A text that only the program writes.
-void NominaFrm::leyenda(std::string nombre, Grupo& grupo, int indice, int anchura) {
-    nuevo({.nombre = std::move(nombre),
-           .indice = indice,
-           .pantalla = grupo.def().pantalla,
-           .grupo = &grupo,
-           .anchura = anchura == 0 ? kAnchoTexto : anchura})
-        .ponActivo(false);
+/// The same, beside the one before it.
+void NominaFrm::cifraAlLado(std::string nombre, std::string rotulo, Grupo& grupo, int indice, int anchura) {
+    DefCampo def = defCifra(std::move(nombre), std::move(rotulo), grupo, indice, anchura);
+    def.mismaLinea = true;
+    nuevo(std::move(def));
 }
 
 Campo& NominaFrm::boton(std::string nombre, std::string rotulo, int pantalla, void (NominaFrm::*accion)()) {
@@ -135,45 +146,53 @@ void NominaFrm::botonesDe(int pantalla, const char* anterior, const char* siguie
 // --- Panel 0
 
 void NominaFrm::declaraContrato() {
-    Grupo& g = nuevoGrupo({.nombre = "Contrato", .disposicion = Disposicion::Columnas, .columnas = 2});
-    nuevo(texto("NomiNombre", "Nombre:", {}, &g)).ponDefecto();
-    DefCampo epigrafe = lista("NomiEpigrafe", "Epígrafe para A.T. y E.P.", {});
-    DefCampo categoria =
-        lista("NomiCategoria", "Grupo de Cotización:", kCategorias, [this](Campo&) { cambiaCategoria(); });
-    DefCampo grupo =
-        lista("TipoContrato", "Tipo de contrato:", {}, [this](Campo&) { cambiaGrupoContrato(); });
-    DefCampo contrato = lista("NomiContrato", "Sub-Tipo:", {}, [this](Campo&) { ajustaCamposContrato(); });
-    DefCampo paga = lista("NomiTipoPaga", "Tipo de paga:", {"1. Paga normal", "2. Paga extraordinaria"});
-    DefCampo mes = lista("NomiMes", "Mes Nómina:", kMeses);
-    for (DefCampo* def : {&epigrafe, &categoria, &grupo, &contrato, &paga}) {
-        def->grupo = &g;
-        def->anchura = kAnchoLista;
-        nuevo(*def);
-    }
-    numero("NomiDesempleo", "Coeficiente Desempleo Parcial:", {.grupo = &g, .largo = 8});
-    numero("NomiPluriempleo", "% Pluriempleo / Jornada Reducida:", {.grupo = &g, .largo = 6});
-    mes.grupo = &g;
-    nuevo(mes);
+    Grupo& contrato = nuevoGrupo({.nombre = "Contrato"});
+    nuevo({.nombre = "NomiNombre", .rotulo = "Nombre:", .grupo = &contrato, .largo = kLargoNombre});
+    const auto agrega = [this](Grupo& grupo, int anchura, DefCampo def) {
+        def.grupo = &grupo;
+        def.anchura = anchura;
+        nuevo(std::move(def));
+    };
+    agrega(contrato, kAnchoLista, lista("NomiEpigrafe", "Epígrafe para A.T. y E.P.", {}));
+    agrega(contrato, kAnchoLista, lista("NomiCategoria", "Grupo de Cotización:", kCategorias, [this](Campo&) {
+               cambiaCategoria();
+           }));
+    agrega(contrato, kAnchoLista,
+           lista("TipoContrato", "Tipo de contrato:", {}, [this](Campo&) { cambiaGrupoContrato(); }));
+    agrega(contrato, kAnchoLista,
+           lista("NomiContrato", "Sub-Tipo:", {}, [this](Campo&) { ajustaCamposContrato(); }));
+    Grupo& nomina = nuevoGrupo({.nombre = "Mes", .alLado = true});
+    agrega(nomina, kAnchoListaCorta, lista("NomiMes", "Mes Nómina:", kMeses));
+    agrega(nomina, kAnchoListaCorta,
+           lista("NomiTipoPaga", "Tipo de paga:", {"1. Paga normal", "2. Paga extraordinaria"}));
     fecha("NomiFechaAlta", "Fecha de Inicio",
-          {.grupo = &g, .defecto = std::string{kPrimerDiaAnio}, .alSalir = [this](Campo& c) {
+          {.grupo = &nomina, .defecto = std::string{kPrimerDiaAnio}, .alSalir = [this](Campo& c) {
                aplica(c, CompruebaFechaAlta(c.texto()));
            }});
     fecha("NomiFechaBaja", "F. de Cese",
-          {.grupo = &g, .alSalir = [this](Campo& c) {
+          {.grupo = &nomina, .alSalir = [this](Campo& c) {
                aplica(c, CompruebaCese(c.texto(), campo("NomiFechaAlta").texto(), this->mes()));
            }});
-    numero("NomiEdad", "Edad:", {.grupo = &g, .defecto = "25"});
+    numero("NomiEdad", "Edad:", {.grupo = &nomina, .defecto = "25"});
+    declaraPagas();
+}
+
+/// What the pay hangs on besides its concepts.
+void NominaFrm::declaraPagas() {
+    numero("NomiDesempleo", "Coeficiente Desempleo Parcial:", {.largo = 8});
+    numero("NomiPluriempleo", "% Pluriempleo / Jornada Reducida:", {.largo = 6});
     for (int fila = 0; fila < 2; ++fila) {
         numero("NomiNumPagas",
-               "Pagas extra:", {.indice = fila, .grupo = &g, .defecto = fila == 0 ? "2" : "0", .anchura = 4});
-        numero("NomiPagaExtra", "pagas de (Mensuales)", {.indice = fila, .grupo = &g, .defecto = "0"});
+               "Pagas extra:", {.indice = fila, .defecto = fila == 0 ? "2" : "0", .anchura = 4});
+        numero("NomiPagaExtra", "pagas de (Mensuales)", {.indice = fila, .defecto = "0", .mismaLinea = true});
     }
-    numero("NomiIRPFExtra", "% IRPF:", {.grupo = &g, .defecto = "0"});
+    numero("NomiIRPFExtra", "% IRPF:", {.defecto = "0"});
     nuevo({.nombre = "BotonIRPF",
            .rotulo = "Cálculo %IRPF",
            .clase = Clase::Boton,
            .alPulsar = [this](Campo&) { calculaIRPF(); },
-           .ayuda = "Utilidad para calcular el % de retención a cuenta del IRPF"});
+           .ayuda = "Utilidad para calcular el % de retención a cuenta del IRPF",
+           .mismaLinea = true});
     nuevo({.nombre = "BotonLiquidos",
            .rotulo = "Conversión de líquidos en brutos",
            .clase = Clase::Boton,
@@ -202,7 +221,7 @@ void NominaFrm::declaraConceptos() {
         ayuda.grupo = &g;
         ayuda.mismaLinea = false;
         nuevo(std::move(ayuda));
-        leyenda("NomiTextoConcepto", g, i);
+        cifra("NomiTextoConcepto", "", g, i, kAnchoConcepto);
         nuevo({.nombre = "NomiImporte",
                .indice = i,
                .grupo = &g,
@@ -244,7 +263,7 @@ void NominaFrm::declaraIncidencias() {
         ayuda.grupo = &g;
         ayuda.mismaLinea = false;
         nuevo(std::move(ayuda));
-        leyenda("NomiTextoIncidencia", g, i, kAnchoIncidencia);
+        cifra("NomiTextoIncidencia", "", g, i, kAnchoIncidencia);
         nuevo({.nombre = "NomiFechaInci1",
                .indice = i,
                .grupo = &g,
@@ -305,8 +324,9 @@ void NominaFrm::declaraExtraYParcial() {
            .rotulo = "-> Promedio de las bases de contingencias durante los últimos 6 meses:",
            .pantalla = kAdicionales,
            .defecto = "0",
-           .filtro = TeclaNumero,
-           .alSalir = [this](Campo& c) { rechaza(c, CompruebaPromedio(c.texto())); }});
+           .contenido = Contenido::Decimal,
+           .alSalir = [this](Campo& c) { rechaza(c, CompruebaPromedio(c.texto())); },
+           .anchura = kAnchoNumero});
 }
 
 void NominaFrm::declaraBaja() {
@@ -321,9 +341,10 @@ void NominaFrm::declaraBaja() {
            .pantalla = kAdicionales,
            .grupo = &g,
            .defecto = "0",
-           .filtro = TeclaDigito,
+           .contenido = Contenido::Entero,
            .formato = "#0",
-           .alSalir = [this](Campo& c) { rechaza(c, CompruebaDiasAnt(c.texto(), mes())); }});
+           .alSalir = [this](Campo& c) { rechaza(c, CompruebaDiasAnt(c.texto(), mes())); },
+           .anchura = kAnchoNumero});
     nuevo({.nombre = "NomiDiasSemana",
            .rotulo = "Días de la semana trabajados:",
            .pantalla = kAdicionales,
@@ -348,6 +369,7 @@ void NominaFrm::declaraBaja() {
 // --- Panel 2
 
 void NominaFrm::declaraFiniquito() {
+    ponPanel(kFiniquito, {.denso = true});
     DefCampo causa =
         lista("NomiFTipoDes", "Causa del cese:", CausasCese(), [this](Campo&) { proponeCese(); });
     causa.pantalla = kFiniquito;
@@ -375,7 +397,8 @@ void NominaFrm::declaraFiniquito() {
            .pantalla = kFiniquito,
            .grupo = &vacaciones,
            .defecto = "0",
-           .filtro = TeclaDigito});
+           .contenido = Contenido::Entero,
+           .anchura = kAnchoNumero});
     numero("NomiFDiasVac",
            "Días disfrutados:", {.pantalla = kFiniquito, .grupo = &vacaciones, .defecto = "0"});
     declaraExtrasFin();

@@ -10,7 +10,6 @@
 #include "payroll/caso/estado_nomina.h"
 #include "payroll/caso/nomina_registro.h"
 #include "payroll/caso/opciones_impresion.h"
-#include "payroll/pantallas/enlaces.h"
 #include "payroll/recibo/recibo.h"
 #include "payroll/validaciones/adicionales.h"
 #include "payroll/validaciones/fechas_nomina.h"
@@ -23,7 +22,8 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
   public:
     explicit NominaFrm(Entorno& entorno);
 
-    /// Reads the lists of contracts and epigraphs and the company's data. Throws FicheroInaccesible.
+    /// Reads the lists of contracts and epigraphs and the company's data. Throws FicheroInaccesible,
+    /// FicheroMalFormado.
     void Inicia() override;
     void LimpiaDatos() override;
     /// Computes the case as it was loaded and shows its receipt, whatever panels would come between.
@@ -35,7 +35,6 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     [[nodiscard]] const nomina::EstadoNomina& Estado() const { return estado_; }
 
   protected:
-    void tomaCampos() override;
     void cargaCampos() override;
     void alImprimir() override;
     /// Receipt and contribution form, or the one that the user asked for.
@@ -51,6 +50,7 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
 
     // --- Declaration
     void declaraContrato();
+    void declaraPagas();
     void declaraConceptos();
     void calculaIRPF();
     void convierteLiquidos();
@@ -61,6 +61,8 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void declaraExtrasFin();
     void declaraPeriodo(std::pair<const char*, const char*> nombres, Grupo& grupo, int indice);
     void declaraRecibo();
+    void declaraCotizacion();
+    void declaraTotales();
     void declaraLineas(DefGrupo def, const char* texto, const char* euros, int sitio);
     void declaraFormularios();
     void declaraSalida();
@@ -68,16 +70,17 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void enlazaFilas();
     void enlazaAdicionales();
     void enlazaFiniquito();
+    void enlazaCasilla(Campo& casilla, std::int16_t nomina::RegistroNomina::*miembro);
+    [[nodiscard]] std::vector<Campo*> serie(std::string_view nombre);
     Campo& numero(std::string nombre, std::string rotulo, DefCampo sitio);
     Campo& fecha(std::string nombre, std::string rotulo, DefCampo sitio);
-    Campo& cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice = 0, int anchura = 14);
-    void leyenda(std::string nombre, Grupo& grupo, int indice, int anchura = 0);
+    void cifra(std::string nombre, std::string rotulo, Grupo& grupo, int indice = 0, int anchura = 14);
+    void cifraAlLado(std::string nombre, std::string rotulo, Grupo& grupo, int indice, int anchura);
     Campo& boton(std::string nombre, std::string rotulo, int pantalla, void (NominaFrm::*accion)());
     /// The pair that leaves a panel of results.
     void botonesDe(int pantalla, const char* anterior, const char* siguiente);
 
     // --- Checks and reactions
-    void rechaza(Campo& campo, std::string_view mensaje);
     void aplica(Campo& campo, const nomina::Revision& revision);
     void dejaConcepto(FilaConcepto fila);
     void dejaIncidencia(FilaIncidencia fila);
@@ -94,6 +97,7 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void proponeCese();
 
     void cargaContrato(const std::string& Codigo);
+    void ajustaFilas();
     void cargaConcepto(FilaConcepto fila);
     void cargaIncidencia(FilaIncidencia fila);
 
@@ -142,7 +146,6 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
 
     nomina::TablasNomina tablas_;
     nomina::EstadoNomina estado_;
-    std::vector<nomina::Enlace> enlaces_;
     std::vector<std::string> listaConceptos_, listaIncidencias_;
     bool conTC2_ = true;  ///< what the next document holds
     bool conRecibo_ = true;

@@ -1,5 +1,8 @@
 #include <algorithm>
 
+#include "foundations/values/fallos.h"
+#include "foundations/values/formatos.h"
+#include "foundations/values/numeros.h"
 #include "foundations/values/textos.h"
 #include "payroll/conceptos/conceptos.h"
 #include "payroll/pantallas/nomina_frm.h"
@@ -17,6 +20,23 @@ int BuscaEnLista(const std::vector<std::string>& lista, std::string_view texto) 
     return item == lista.end() ? -1 : static_cast<int>(item - lista.begin());
 }
 
+/// Without its lists no case can be filled in.
+void exigeFilas(std::string_view fichero, const auto& filas) {
+    if (filas.empty()) throw FicheroMalFormado{std::string{fichero}, 0, "está vacío"};
+}
+
+// Numbers as all the payroll reads them, by `ValComa`: what is none counts 0. Written plain.
+constexpr Via<double> kDoble{[](std::string_view texto) { return ValComa(texto); },
+                             [](double valor) { return TextoPlano(valor); }};
+constexpr Via<float> kSimple{[](std::string_view texto) { return static_cast<float>(ValComa(texto)); },
+                             [](float valor) { return TextoPlano(valor); }};
+constexpr Via<std::int32_t> kEntero{[](std::string_view texto) { return RedondeaPar(ValComa(texto)); },
+                                    vias::escribeEntero};
+constexpr Via<std::int16_t> kEntero16{[](std::string_view texto) { return RedondeaPar16(ValComa(texto)); },
+                                      [](std::int16_t valor) { return TextoPlano(valor); }};
+constexpr Via<std::uint8_t> kOcteto{[](std::string_view texto) { return RedondeaPar8(ValComa(texto)); },
+                                    [](std::uint8_t valor) { return TextoPlano(valor); }};
+
 }  // namespace
 
 // --- Set-up
@@ -24,6 +44,8 @@ int BuscaEnLista(const std::vector<std::string>& lista, std::string_view texto) 
 void NominaFrm::Inicia() {
     tablas_.contratos = Contratos{entorno().almacen.leeTodo(kFicheroContratos)};
     tablas_.epigrafes = Epigrafes{entorno().almacen.leeTodo(kFicheroEpigrafes)};
+    exigeFilas(kFicheroContratos, tablas_.contratos.grupos());
+    exigeFilas(kFicheroEpigrafes, tablas_.epigrafes.filas());
     {
         const MientrasCarga mientras{Cargando};
         campo("NomiEpigrafe").ponOpciones(tablas_.epigrafes.lista());
@@ -38,7 +60,7 @@ void NominaFrm::LimpiaDatos() {
     campo("NomiEpigrafe").ponIndice(BuscaEnLista(tablas_.epigrafes.lista(), "113"));
     cambiaGrupoContrato();
     proponeCese();
-    rotulaPagas();
+    ajustaFilas();
     cargaOpciones();
     caso_ = {};
     estado_ = {};
@@ -46,106 +68,108 @@ void NominaFrm::LimpiaDatos() {
 
 // --- Fields and record, both ways
 
+/// The fields of that name, in the order of their rows.
+std::vector<Campo*> NominaFrm::serie(std::string_view nombre) {
+    std::vector<Campo*> filas;
+    for (Campo& campo : campos()) {
+        if (campo.def().nombre == nombre) filas.push_back(&campo);
+    }
+    return filas;
+}
+
+/// The name typed when saving is not kept: the record takes that of the worker.
 void NominaFrm::enlazaContrato() {
     using R = RegistroNomina;
-    const auto enlaza = [this](const char* nombre, auto miembro) {
-        enlaces_.push_back(Enlaza(campo(nombre), miembro));
-    };
-    enlaza("NomiMes", &R::Mes);
-    enlaza("NomiFechaAlta", &R::FechaInicio);
-    enlaza("NomiFechaBaja", &R::FechaCese);
-    enlaza("NomiTipoPaga", &R::TipoPaga);
-    enlaza("NomiCategoria", &R::Categoria);
-    enlaza("NomiDesempleo", &R::Desempleo);
-    enlaza("NomiPluriempleo", &R::Pluriempleo);
-    enlaza("NomiEdad", &R::Edad);
-    enlaza("NomiIRPFExtra", &R::IRPFExtra);
-    for (std::size_t i = 0; i < 2; ++i) {
-        enlaces_.push_back(Enlaza(campo("NomiNumPagas", static_cast<int>(i)), &R::NumPagas, i));
-        enlaces_.push_back(Enlaza(campo("NomiPagaExtra", static_cast<int>(i)), &R::PagaExtra, i));
-    }
+    enlaza(
+        [this](R& r) {
+            r.Nombre.asigna(Recorta(campo("NomiNombre").texto()));
+            r.Descripcion = r.Nombre;
+        },
+        [this](const R& r) { campo("NomiNombre").ponTexto(r.Nombre.utf8()); });
+    enlaza([this](R& r) { r.Epigrafe.asigna(PrimerosCaracteres(campo("NomiEpigrafe").texto(), 3)); },
+           [this](const R& r) {
+               const int entrada = BuscaEnLista(tablas_.epigrafes.lista(), r.Epigrafe.utf8());
+               campo("NomiEpigrafe").ponIndice(entrada);
+           });
+    enlaza([this](R& r) { r.CodigoContrato.asigna(CodigoContrato()); },
+           [this](const R& r) { cargaContrato(r.CodigoContrato.utf8SinRecortar()); });
+    enlaza(campo("NomiMes"), &R::Mes);
+    enlaza(campo("NomiFechaAlta"), &R::FechaInicio);
+    enlaza(campo("NomiFechaBaja"), &R::FechaCese);
+    enlaza(campo("NomiTipoPaga"), &R::TipoPaga);
+    enlaza(campo("NomiCategoria"), &R::Categoria);
+    enlaza(campo("NomiDesempleo"), &R::Desempleo);
+    enlaza(campo("NomiPluriempleo"), &R::Pluriempleo);
+    enlaza(campo("NomiEdad"), &R::Edad, kOcteto);
+    enlaza(campo("NomiIRPFExtra"), &R::IRPFExtra, kSimple);
+    enlaces().agregaSerie(serie("NomiNumPagas"), &R::NumPagas, kOcteto);
+    enlaces().agregaSerie(serie("NomiPagaExtra"), &R::PagaExtra, kDoble);
 }
 
 void NominaFrm::enlazaFilas() {
     using R = RegistroNomina;
-    for (std::size_t i = 0; i < kConceptos; ++i) {
-        const FilaConcepto fila = concepto(static_cast<int>(i));
-        enlaces_.push_back(Enlaza(fila.codigo, &R::CodigoConcepto, i));
-        enlaces_.push_back(Enlaza(fila.importe, &R::ImporteConcepto, i));
-        enlaces_.push_back(Enlaza(fila.periodo, &R::UnidadConcepto, i));
-    }
-    for (std::size_t i = 0; i < kIncidencias; ++i) {
-        const FilaIncidencia fila = incidencia(static_cast<int>(i));
-        enlaces_.push_back(Enlaza(fila.codigo, &R::CodigoIncidencia, i));
-        enlaces_.push_back(Enlaza(fila.dia1, &R::DiaInicioInci, i));
-        enlaces_.push_back(Enlaza(fila.dia2, &R::DiaFinInci, i));
-    }
+    enlaces().agregaSerie(serie("NomiConcepto"), &R::CodigoConcepto);
+    enlaces().agregaSerie(serie("NomiImporte"), &R::ImporteConcepto, kDoble);
+    enlaces().agregaSerie(serie("NomiPeriod"), &R::UnidadConcepto);
+    enlaces().agregaSerie(serie("NomiIncidencia"), &R::CodigoIncidencia);
+    enlaces().agregaSerie(serie("NomiFechaInci1"), &R::DiaInicioInci, kOcteto);
+    enlaces().agregaSerie(serie("NomiFechaInci2"), &R::DiaFinInci, kOcteto);
 }
 
 void NominaFrm::enlazaAdicionales() {
     using R = RegistroNomina;
-    const auto enlaza = [this](const char* nombre, auto miembro) {
-        enlaces_.push_back(Enlaza(campo(nombre), miembro));
-    };
-    enlaza("NomiFechaExtra1", &R::FechaExtra1);
-    enlaza("NomiFechaExtra2", &R::FechaExtra2);
-    enlaza("NomiParcialDias", &R::ParcialDias);
-    enlaza("NomiParcialHoras", &R::ParcialHoras);
-    enlaza("NomiPromedio6Meses", &R::Promedio6Meses);
-    enlaza("NomiBaseCCAnt", &R::BaseCCAnt);
-    enlaza("NomiBaseATEPAnt", &R::BaseATEPAnt);
-    enlaza("NomiHEAnt", &R::HEAnt);
-    enlaza("NomiHEAñoAnt", &R::HEAnioAnt);
-    enlaza("NomiDiasAnt", &R::DiasAnt);
-    enlaza("NomiDiasSemana", &R::DiasSemana);
-    enlaza("NomiHorasDiarias", &R::HorasDiarias);
-    enlaza("NomiDias12", &R::Dias12);
-    enlaza("NomiBase12", &R::Base12);
+    enlaza(campo("NomiFechaExtra1"), &R::FechaExtra1);
+    enlaza(campo("NomiFechaExtra2"), &R::FechaExtra2);
+    enlaza(campo("NomiParcialDias"), &R::ParcialDias, kOcteto);
+    enlaza(campo("NomiParcialHoras"), &R::ParcialHoras, kEntero);
+    enlaza(campo("NomiPromedio6Meses"), &R::Promedio6Meses, kDoble);
+    enlaza(campo("NomiBaseCCAnt"), &R::BaseCCAnt, kDoble);
+    enlaza(campo("NomiBaseATEPAnt"), &R::BaseATEPAnt, kDoble);
+    enlaza(campo("NomiHEAnt"), &R::HEAnt, kEntero);
+    enlaza(campo("NomiHEAñoAnt"), &R::HEAnioAnt, kEntero);
+    enlaza(campo("NomiDiasAnt"), &R::DiasAnt, kOcteto);
+    enlaza(campo("NomiDiasSemana"), &R::DiasSemana);
+    enlaza(campo("NomiHorasDiarias"), &R::HorasDiarias, kDoble);
+    enlaza(campo("NomiDias12"), &R::Dias12, kDoble);
+    enlaza(campo("NomiBase12"), &R::Base12, kDoble);
 }
 
 void NominaFrm::enlazaFiniquito() {
     using R = RegistroNomina;
-    const auto enlaza = [this](const char* nombre, auto miembro) {
-        enlaces_.push_back(Enlaza(campo(nombre), miembro));
-    };
-    enlaza("NomiFTipoDes", &R::TipoDes);
-    enlaza("NomiFExtincion", &R::FExtincion);
-    enlaza("NomiFPreaviso", &R::FPreaviso);
-    enlaza("NomiFDiasInd", &R::DiasInd);
-    enlaza("NomiFDiasCom", &R::DiasCom);
-    enlaza("NomiFMaxInd", &R::MaxInd);
-    enlaza("NomiFVac1", &R::FVac1);
-    enlaza("NomiFVac2", &R::FVac2);
-    enlaza("NomiFImpVac", &R::ImpVac);
-    enlaza("NomiFDiasVac", &R::DiasVac);
-    enlaza("NomiNIF", &R::NIF);
-    enlaza("NomiNumMatricula", &R::NumMatricula);
-    enlaza("NomiCuentaSS", &R::CuentaSS);
-    enlaza("NomiGrupoProfesional", &R::GrupoProfesional);
-    for (std::size_t i = 0; i < kExtrasFin; ++i) {
-        const int fila = static_cast<int>(i);
-        enlaces_.push_back(Enlaza(campo("NomiFConcepto", fila), &R::FConcepto, i));
-        enlaces_.push_back(Enlaza(campo("NomiFFec1", fila), &R::FFec1, i));
-        enlaces_.push_back(Enlaza(campo("NomiFFec2", fila), &R::FFec2, i));
-        enlaces_.push_back(Enlaza(campo("NomiFImporte", fila), &R::FImporte, i));
-    }
+    enlaza(campo("NomiFTipoDes"), &R::TipoDes);
+    enlazaCasilla(campo("NomiFExtincion"), &R::FExtincion);
+    enlazaCasilla(campo("NomiFPreaviso"), &R::FPreaviso);
+    enlaza(campo("NomiFDiasInd"), &R::DiasInd, kEntero);
+    enlaza(campo("NomiFDiasCom"), &R::DiasCom, kEntero16);
+    enlaza(campo("NomiFMaxInd"), &R::MaxInd, kEntero);
+    enlaza(campo("NomiFVac1"), &R::FVac1);
+    enlaza(campo("NomiFVac2"), &R::FVac2);
+    enlaza(campo("NomiFImpVac"), &R::ImpVac, kEntero);
+    enlaza(campo("NomiFDiasVac"), &R::DiasVac, kOcteto);
+    enlaces().agregaSerie(serie("NomiFConcepto"), &R::FConcepto);
+    enlaces().agregaSerie(serie("NomiFFec1"), &R::FFec1);
+    enlaces().agregaSerie(serie("NomiFFec2"), &R::FFec2);
+    enlaces().agregaSerie(serie("NomiFImporte"), &R::FImporte, kDoble);
+    enlaza(campo("NomiNIF"), &R::NIF);
+    enlaza(campo("NomiNumMatricula"), &R::NumMatricula);
+    enlaza(campo("NomiCuentaSS"), &R::CuentaSS);
+    enlaza(campo("NomiGrupoProfesional"), &R::GrupoProfesional);
 }
 
-/// `DatosARegistro`. The name typed when saving is not kept: the record takes that of the worker.
-void NominaFrm::tomaCampos() {
-    caso_.Nombre.asigna(Recorta(campo("NomiNombre").texto()));
-    caso_.Descripcion = caso_.Nombre;
-    caso_.Epigrafe.asigna(PrimerosCaracteres(campo("NomiEpigrafe").texto(), 3));
-    caso_.CodigoContrato.asigna(CodigoContrato());
-    for (const Enlace& enlace : enlaces_) enlace.toma(caso_);
+/// -1 when it is marked.
+void NominaFrm::enlazaCasilla(Campo& casilla, std::int16_t RegistroNomina::*miembro) {
+    enlaza([&casilla, miembro](RegistroNomina& r) { r.*miembro = casilla.marcado() ? -1 : 0; },
+           [&casilla, miembro](const RegistroNomina& r) { casilla.ponMarcado(r.*miembro != 0); });
 }
 
 void NominaFrm::cargaCampos() {
     const MientrasCarga mientras{Cargando};
-    campo("NomiNombre").ponTexto(caso_.Nombre.utf8());
-    campo("NomiEpigrafe").ponIndice(BuscaEnLista(tablas_.epigrafes.lista(), caso_.Epigrafe.utf8()));
-    cargaContrato(caso_.CodigoContrato.utf8SinRecortar());
-    for (const Enlace& enlace : enlaces_) enlace.carga(caso_);
+    CalculadoraDe::cargaCampos();
+    ajustaFilas();
+}
+
+/// What the rows show besides what they hold.
+void NominaFrm::ajustaFilas() {
     rotulaPagas();
     for (int i = 0; i < kConceptos; ++i) cargaConcepto(concepto(i));
     for (int i = 0; i < kIncidencias; ++i) cargaIncidencia(incidencia(i));

@@ -72,12 +72,6 @@ bool NominaFrm::hayDesempleoParcial() {
 
 // --- Checks
 
-void NominaFrm::rechaza(Campo& campo, std::string_view mensaje) {
-    if (mensaje.empty()) return;
-    mensajes().ComunicaError(mensaje);
-    campo.pideFoco();
-}
-
 void NominaFrm::aplica(Campo& campo, const Revision& revision) {
     if (revision.propuesta) campo.ponTexto(*revision.propuesta);
     rechaza(campo, revision.mensaje);
@@ -245,8 +239,7 @@ void NominaFrm::AjustaCaptions() {
 
 void NominaFrm::dejaContrato() {
     Campo& baja = campo("NomiFechaBaja");
-    const std::string mensaje = CompruebaDatosCese(baja.texto());
-    if (!mensaje.empty()) return rechaza(baja, mensaje);
+    if (rechaza(baja, CompruebaDatosCese(baja.texto()))) return;
     preparaAdicionales();
     if (necesitaAdicionales()) return MuestraPantalla(kAdicionales);
     calculaOFiniquito();

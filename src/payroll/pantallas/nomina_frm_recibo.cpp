@@ -1,5 +1,9 @@
+#include <utility>
+
+#include "foundations/frame/declaraciones.h"
 #include "foundations/values/formatos.h"
 #include "foundations/values/json.h"
+#include "foundations/values/textos.h"
 #include "payroll/caso/calcula_nomina.h"
 #include "payroll/caso/json_estado.h"
 #include "payroll/pantallas/nomina_frm.h"
@@ -16,7 +20,9 @@ namespace {
 constexpr int kLineasSalariales = 8;
 constexpr int kLineasNoSalariales = 4;
 constexpr int kAnchoImporte = 12;
-constexpr int kAnchoDetalle = 26;
+constexpr int kAnchoCuota = 16;  // with that of partial unemployment
+constexpr int kAnchoPorcentaje = 5;
+constexpr int kAnchoLinea = 33;
 
 constexpr std::string_view kAyudaExtras =
     "La parte proporcional de pagas extra y las vacaciones no disfrutadas entran en un recibo a parte desde "
@@ -58,45 +64,18 @@ void NominaFrm::declaraRecibo() {
                   kLineasSalariales);
     declaraLineas({.nombre = "NoSalariales", .titulo = "2. Percepciones no salariales", .alLado = true},
                   "PagaNoSal", "PagaNoSalarial", kLineasNoSalariales);
-    const auto panel = [this](DefGrupo def, std::initializer_list<std::pair<const char*, const char*>> filas,
-                              int anchura) {
-        def.pantalla = kRecibo;
-        Grupo& g = nuevoGrupo(std::move(def));
-        for (const auto& [nombre, rotulo] : filas) cifra(nombre, rotulo, g, 0, anchura);
-    };
-    panel({.nombre = "Cotizacion", .titulo = "Cotización"},
-          {{"PagaCC", "Contingencias comunes"},
-           {"PagaDetalleCC", ""},
-           {"PagaDes", "Desempleo"},
-           {"PagaDetalleDes", ""},
-           {"PagaFP", "Formación profesional"},
-           {"PagaDetalleFP", ""},
-           {"PagaHEE", "H. extra fuerza mayor"},
-           {"PagaHNE", "Otras horas extra"}},
-          kAnchoDetalle);
-    panel({.nombre = "Totales", .titulo = "Totales", .alLado = true},
-          {{"PagaTotalDevengado", "A. TOTAL DEVENGADO"},
-           {"PagaSS", "1. Seguridad Social"},
-           {"PagaIRPF", "2. IRPF"},
-           {"PagaRetencionIRPF", ""},
-           {"PagaAnticipos", "3. Anticipos"},
-           {"PagaEspecie", "4. Productos en especie"},
-           {"PagaIRPFEspecie", "5. Retención en especie"},
-           {"PagaTotalADeducir", "B. TOTAL A DEDUCIR"},
-           {"PagaLiquido", "LÍQUIDO (A-B)"}},
-          kAnchoImporte);
-    Grupo& extras = nuevoGrupo(
-        {.nombre = "ReciboAparte", .pantalla = kRecibo, .disposicion = Disposicion::Columnas, .columnas = 2});
-    cifra("Extras", "P.P.Vacaciones  (*)", extras, 0);
-    cifra("Extras", "P.P.Extras  (*)", extras, 1);
+    declaraCotizacion();
+    declaraTotales();
+    Grupo& aparte = nuevoGrupo({.nombre = "ReciboAparte", .pantalla = kRecibo});
+    cifra("Extras", "P.P.Vacaciones  (*)", aparte, 0, kAnchoImporte);
+    cifraAlLado("Extras", "P.P.Extras  (*)", aparte, 1, kAnchoImporte);
+    DefCampo ayuda = interrogacion("AyudaExtras", "Qué va en un recibo aparte",
+                                   [this](Campo&) { mensajes().Informa(kAyudaExtras); });
+    ayuda.rotulo = "(*)";
+    ayuda.pantalla = kRecibo;
+    ayuda.grupo = &aparte;
     botonesDe(kRecibo, "NomiAnt3", "NomiSig3");
-    nuevo({.nombre = "AyudaExtras",
-           .rotulo = "(*)",
-           .clase = Clase::Boton,
-           .pantalla = kRecibo,
-           .alPulsar = [this](Campo&) { mensajes().Informa(kAyudaExtras); },
-           .ayuda = "Qué va en un recibo aparte",
-           .mismaLinea = true});
+    nuevo(std::move(ayuda));
 }
 
 void NominaFrm::declaraLineas(DefGrupo def, const char* texto, const char* euros, int sitio) {
@@ -105,9 +84,39 @@ void NominaFrm::declaraLineas(DefGrupo def, const char* texto, const char* euros
     def.columnas = 2;
     Grupo& g = nuevoGrupo(std::move(def));
     for (int i = 0; i < sitio; ++i) {
-        leyenda(texto, g, i);
+        cifra(texto, "", g, i, kAnchoLinea);
         cifra(euros, "", g, i, kAnchoImporte);
     }
+}
+
+/// Under each quota, its rates and bases.
+void NominaFrm::declaraCotizacion() {
+    Grupo& g = nuevoGrupo({.nombre = "Cotizacion", .titulo = "Cotización", .pantalla = kRecibo});
+    const auto conDetalle = [&](const char* cuota, const char* rotulo, const char* detalle) {
+        cifra(cuota, rotulo, g, 0, kAnchoCuota);
+        nuevo({.nombre = detalle, .clase = Clase::Etiqueta, .pantalla = kRecibo, .grupo = &g});
+    };
+    conDetalle("PagaCC", "Contingencias comunes", "PagaDetalleCC");
+    conDetalle("PagaDes", "Desempleo", "PagaDetalleDes");
+    conDetalle("PagaFP", "Formación profesional", "PagaDetalleFP");
+    cifra("PagaHEE", "H. extra fuerza mayor", g, 0, kAnchoCuota);
+    cifra("PagaHNE", "Otras horas extra", g, 0, kAnchoCuota);
+}
+
+void NominaFrm::declaraTotales() {
+    Grupo& g = nuevoGrupo({.nombre = "Totales", .titulo = "Totales", .pantalla = kRecibo, .alLado = true});
+    const auto total = [&](const char* nombre, const char* rotulo) {
+        cifra(nombre, rotulo, g, 0, kAnchoImporte);
+    };
+    total("PagaTotalDevengado", "A. TOTAL DEVENGADO");
+    total("PagaSS", "1. Seguridad Social");
+    total("PagaIRPF", "2. IRPF");
+    cifraAlLado("PagaRetencionIRPF", "", g, 0, kAnchoPorcentaje);
+    total("PagaAnticipos", "3. Anticipos");
+    total("PagaEspecie", "4. Productos en especie");
+    total("PagaIRPFEspecie", "5. Retención en especie");
+    total("PagaTotalADeducir", "B. TOTAL A DEDUCIR");
+    total("PagaLiquido", "LÍQUIDO (A-B)");
 }
 
 void NominaFrm::declaraFormularios() {
@@ -182,8 +191,11 @@ void NominaFrm::ponLineas(const std::vector<LineaRecibo>& lineas, const char* te
                           int sitio) {
     for (int i = 0; i < sitio; ++i) {
         const bool hay = i < static_cast<int>(lineas.size());
-        campo(texto, i).ponTexto(hay ? lineas[static_cast<std::size_t>(i)].texto : "");
-        pon(euros, hay ? lineas[static_cast<std::size_t>(i)].importe : 0, i);
+        const LineaRecibo linea = hay ? lineas[static_cast<std::size_t>(i)] : LineaRecibo{};
+        campo(texto, i).ponTexto(linea.texto);
+        pon(euros, linea.importe, i);
+        campo(texto, i).ponVisible(hay);
+        campo(euros, i).ponVisible(hay);
     }
 }
 
@@ -240,7 +252,7 @@ void NominaFrm::MuestraTC2() {
     campo("TC2DiasMat").ponTexto(siHay(d.DiasMat));
     campo("TC2EpigrafeBaja").ponTexto(d.DiasBaja + d.DiasMat > 0 ? "126" : "");
     pon("TC2BaseBaja", estado_.bases.BaseParo);
-    campo("TC2Situaciones").ponTexto(SituacionesEspeciales(estado_, caso_));
+    campo("TC2Situaciones").ponTexto(std::string{Recorta(SituacionesEspeciales(estado_, caso_))});
 }
 
 void NominaFrm::MuestraTC1() {

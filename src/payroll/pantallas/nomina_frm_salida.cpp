@@ -34,7 +34,12 @@ void NominaFrm::declaraSalida() {
     opciones.pantalla = kSalida;
     opciones.defecto = "1";
     nuevo(std::move(opciones));
-    boton("ImpresionImprime", "Imprimir", kSalida, &NominaFrm::ImpresionImprime);
+    nuevo({.nombre = "ImpresionImprime",
+           .rotulo = "Imprimir",
+           .clase = Clase::Boton,
+           .pantalla = kSalida,
+           .alPulsar = [this](Campo&) { ImpresionImprime(); },
+           .mismaLinea = true});
     nuevo({.nombre = "ImpresionVuelve",
            .rotulo = "(Pantalla Anterior...)",
            .clase = Clase::Boton,
@@ -59,8 +64,9 @@ OpcionesImpresion NominaFrm::opcionesDeLaPantalla() {
     return opciones;
 }
 
+/// Where the company's data can't be kept it says so, and prints.
 void NominaFrm::ImpresionImprime() {
-    GrabaOpciones(entorno().almacen, opcionesDeLaPantalla());
+    protegido([this] { GrabaOpciones(entorno().almacen, opcionesDeLaPantalla()); });
     if (!DatosTomaPantalla()) return;
     conTC2_ = campo("ImpresionOpciones").indice() == 0;
     conRecibo_ = !conTC2_;

@@ -1,55 +1,19 @@
 // The payroll's screen: the road among its panels, its rows and what it keeps.
-#include "payroll/pantallas/nomina_frm.h"
-
-#include <gmock/gmock.h>
-
 #include <functional>
+#include <random>
 
-#include "apoyo/entorno_falso.h"
+#include "apoyo/vista_falsa.h"
 #include "foundations/values/fallos.h"
+#include "payroll/pantallas/nomina_abierta.h"
 #include "payroll/recibo/recibo.h"
+#include "tax/rirpf_frm.h"
 
 namespace orvemo::pruebas {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
-
-class Nomina : public testing::Test {
-  protected:
-    Nomina() {
-        mundo.almacen["CONTRATO.NOM"] =
-            "*#100 Indefinido#0\n100#100 Indefinido#100###NNN\n*#300 Discontinuo#0\n300#300 Por d\xED"
-            "as#300#D\n"
-            "*#421 Formaci\xF3n#0\n421A#421A Aprendiz#421\n421B#421B Otro#421\n*#502 Eventual#2\n502#502 "
-            "Eventual#502#H\n";
-        mundo.almacen["EPIG.NOM"] = "102#1#1#Representantes\n113#0,45#0,54#Oficina\n";
-        frm.Inicia();
-    }
-
-    void pon(const char* campo, const char* texto, int indice = 0) {
-        Campo& c = frm.campo(campo, indice);
-        ASSERT_TRUE(frm.foco(c)) << campo;
-        frm.escribe(c, texto);
-    }
-    void elige(const char* campo, int entrada) { frm.elige(frm.campo(campo), entrada); }
-    std::string texto(const char* campo, int indice = 0) { return frm.campo(campo, indice).texto(); }
-    bool visible(const char* campo) { return frm.campo(campo).visible(); }
-
-    /// The panels that the user sees from the first to the receipt.
-    std::vector<int> recorrido() {
-        std::vector<int> paneles;
-        const char* botones[] = {"NomiSig0", "NomiSig1", "NomiSig2"};
-        while (frm.PantallaActual() < 3 && paneles.size() < 4) {
-            frm.pulsa(frm.campo(botones[frm.PantallaActual()]));
-            paneles.push_back(frm.PantallaActual());
-        }
-        return paneles;
-    }
-
-    EntornoFalso mundo;
-    NominaFrm frm{mundo.entorno};
-};
 
 TEST_F(Nomina, WhatIsEnteredChoosesTheRoad) {
     struct Camino {
@@ -193,10 +157,91 @@ TEST_F(Nomina, ItPrintsTheFormAskedForAndRemembersTheCompany) {
     EXPECT_EQ(otra.campo("DatosEmpresa").texto(), "Talleres Norte, S.L.");
 }
 
-TEST_F(Nomina, WithoutItsListsItDoesNotOpen) {
-    mundo.almacen.ficheros.erase("epig.nom");
-    NominaFrm otra{mundo.entorno};
-    EXPECT_THROW(otra.Inicia(), Fallo);
+TEST_F(Nomina, OnlyAPercentageThatWasWorkedOutComesBack) {
+    VistaFalsa vista;
+    frm.ponVista(&vista);
+    std::vector<std::string> abiertas;
+    vista.alAbrir = [&](Formulario& otra) { abiertas.push_back(otra.Caption()); };
+    pon("NomiIRPFExtra", "7");
+    pulsa("BotonIRPF");
+    pulsa("BotonLiquidos");
+    EXPECT_THAT(abiertas, ElementsAre("Retenciones del Trabajo Personal a cuenta del IRPF",
+                                      "Conversión de Salarios Líquidos en Brutos"));
+    EXPECT_EQ(texto("NomiIRPFExtra"), "7");
+    vista.alAbrir = [](Formulario& otra) {
+        auto& irpf = dynamic_cast<RetIrpfFrm&>(otra);
+        irpf.escribe(irpf.AnioNacimiento, "1965");
+        irpf.escribe(irpf.Retribuciones, "24000");
+        irpf.escribe(irpf.Gastos, "1524");
+        irpf.concluye();
+    };
+    pulsa("BotonIRPF");
+    // 24000 - 1524 less 2400 and 3400: 612 + 2399.04 + 28 % of 2600 are 15.579 % of the pay.
+    EXPECT_EQ(texto("NomiIRPFExtra"), "15,57");
+    EXPECT_EQ(frm.actual(), &frm.campo("BotonIRPF"));
+}
+
+/// What the user is told when the payroll opens over that file; nothing when it opens.
+std::string alAbrir(EntornoFalso& mundo) {
+    try {
+        NominaFrm frm{mundo.entorno};
+        frm.Inicia();
+    } catch (const Fallo& fallo) {
+        return fallo.what();
+    }
+    return {};
+}
+
+TEST_F(Nomina, AListThatCannotBeUsedIsNamed) {
+    std::string azar(2000, ' ');
+    std::mt19937 dado{2005};
+    for (char& c : azar) c = static_cast<char>(dado() & 0xFF);
+    struct Caso {
+        const char *fichero, *contenido, *motivo;
+    };
+    const Caso casos[] = {
+        {"CONTRATO.NOM", nullptr, "(no existe)"},
+        {"CONTRATO.NOM", azar.c_str(), "(no es un texto)"},
+        {"CONTRATO.NOM", "*#100 Indefinido#0\n100#100#100##B#S#5#256", "en la línea 2 (el número 256"},
+        {"CONTRATO.NOM", "", "(está vacío)"},
+        {"EPIG.NOM", nullptr, "(no existe)"},
+        {"EPIG.NOM", azar.c_str(), "(no es un texto)"},
+        {"EPIG.NOM", "", "(está vacío)"},
+    };
+    for (const Caso& caso : casos) {
+        SCOPED_TRACE(caso.motivo);
+        const auto buenos = mundo.almacen.ficheros;
+        mundo.almacen[caso.fichero] = caso.contenido == nullptr ? "" : caso.contenido;
+        if (caso.contenido == nullptr) mundo.almacen.elimina(caso.fichero);
+        EXPECT_THAT(alAbrir(mundo), testing::AllOf(HasSubstr(caso.fichero), HasSubstr(caso.motivo)));
+        mundo.almacen.ficheros = buenos;
+    }
+    mundo.almacen["opciones.nom"] = azar;
+    EXPECT_EQ(alAbrir(mundo), "") << "whatever the company's data are";
+    mundo.almacen["opciones.nom"] = "Talleres Norte, S.L.";
+    EXPECT_EQ(alAbrir(mundo), "");
+}
+
+TEST_F(Nomina, APrinterOrADiskThatFailsLosesNothing) {
+    pon("NomiNombre", "Elena Ríos");
+    pon("NomiConcepto", "01");
+    pon("NomiImporte", "1000");
+    pulsa("NomiBotonPrint");
+    pon("DatosEmpresa", "Σ Talleres");
+    mundo.almacen.soloLectura = true;
+    mundo.impresora.fallaAlTerminar = true;
+    pulsa("ImpresionImprime");
+    mundo.impresora.fallaAlTerminar = false;
+    pulsa("ImpresionImprime");
+    const char* sinGrabar =
+        "Error: No se ha podido completar la operación: el fichero \"opciones.nom\" no se puede usar (no se "
+        "puede escribir).";
+    EXPECT_THAT(mundo.mensajes.dichos,
+                ElementsAre(sinGrabar, "Error: No se ha podido imprimir: la impresora no responde.",
+                            "Informa: Impresión terminada", sinGrabar, "Informa: Impresión terminada"));
+    EXPECT_THAT(mundo.impresora.lineas, testing::Contains(HasSubstr("? Talleres")))
+        << "there is no Σ in Windows-1252";
+    EXPECT_EQ(texto("DatosEmpresa") + " " + texto("PagaSalarial"), "Σ Talleres 1.000,00");
 }
 
 }  // namespace
