@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <random>
 
 #include "apoyo/disco.h"
 #include "shell/apoyo_shell.h"
@@ -161,18 +160,6 @@ TEST_F(ProgramaInicio, ConfigNomEstropeadoNoImpideEmpezar) {
         EXPECT_EQ(aLaVista(otro), caso.vistas) << caso.contenido.size() << " bytes";
     }
     EXPECT_THAT(mundo.mensajes.dichos, IsEmpty());
-}
-
-TEST_F(ProgramaInicio, ConfigNomDeBytesCualesquieraNoImpideEmpezarNiPulsar) {
-    std::mt19937 azar{2005};
-    for (int vez = 0; vez < 200; ++vez) {
-        std::string bytes(azar() % 6000, '\0');
-        for (char& c : bytes) c = static_cast<char>(azar() & 0xFF);
-        mundo.almacen["config.nom"] = bytes;
-        Programa otro{mundo.entorno, {}, vista};
-        ASSERT_NO_THROW(otro.Inicia()) << vez;
-        for (int i = 0; i < kNumOpciones; ++i) ASSERT_NO_THROW(otro.Opcion(i)) << vez;
-    }
 }
 
 TEST_F(ProgramaInicio, ConfigNomAusenteSeCreaVacio) {
