@@ -5,9 +5,9 @@
 #include <string>
 
 #include "apoyo/almacen_memoria.h"
-#include "capital/mortalidad_de_prueba.h"
 #include "foundations/values/fallos.h"
 #include "foundations/values/numeros.h"
+#include "genera_tarifas/mortalidad.h"
 #include "genera_tarifas/rentas.h"
 
 namespace orvemo::capital {
@@ -80,7 +80,8 @@ TEST(Tarifas, LosFicherosMalosDanCeroYLosQueFaltanSuError) {
 }
 
 TEST(Tarifas, LasQueSeEntreganSonLasRentasDeDocePagas) {
-    const tarifas::Rentas rentas{tarifas::mortalidadDe2000()};
+    const DirectorioAplicacion fuentes{ORVEMO_FUENTES};
+    const tarifas::Rentas rentas{tarifas::LeeMortalidad(fuentes.leeTodo("mortalidad.csv"))};
     const auto espera = [](float leida, double renta, int x, int y) {
         EXPECT_NEAR(leida, renta * 12, 0.00006) << x << ' ' << y;
     };
