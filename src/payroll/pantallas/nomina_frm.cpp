@@ -435,14 +435,14 @@ void NominaFrm::declaraExtrasFin() {
 
 /// Both ends of a period, the year by default.
 void NominaFrm::declaraPeriodo(std::pair<const char*, const char*> nombres, Grupo& grupo, int indice) {
-    const auto [primera, segunda] = nombres;
+    const char* const primera = nombres.first;
     fecha(primera, grupo.def().encabezados.empty() ? "Del día:" : "",
           {.indice = indice,
            .pantalla = kFiniquito,
            .grupo = &grupo,
            .defecto = std::string{kPrimerDiaAnio},
            .alSalir = [this](Campo& c) { aplica(c, CompruebaFechaPeriodo1(c.texto())); }});
-    fecha(segunda, grupo.def().encabezados.empty() ? "al:" : "",
+    fecha(nombres.second, grupo.def().encabezados.empty() ? "al:" : "",
           {.indice = indice,
            .pantalla = kFiniquito,
            .grupo = &grupo,
