@@ -190,8 +190,8 @@ void PanelFormulario::cuentaLosDeCadaFila(std::vector<Bloque>& bloques) {
     }
 }
 
-/// A group stands below what is before it, or at the right of the group before it. They share the width evenly,
-/// unless one needs more.
+/// A group stands below what is before it, or at the right of the group before it. They share the width
+/// evenly, unless one needs more.
 void PanelFormulario::coloca(QWidget* marco, bool alLado) {
     if (!alLado || fila_ == nullptr) {
         fila_ = new QHBoxLayout;
