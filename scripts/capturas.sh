@@ -22,6 +22,7 @@ for porcentaje in 100 200; do
     [ "$porcentaje" = 100 ] || sufijo=-$porcentaje
     QT_SCALE_FACTOR=$((porcentaje / 100)) build/release/tools/capturas "$datos" "$trabajo" "$sufijo"
     pdftoppm -r $((porcentaje * 6 / 10)) -png -singlefile "$trabajo/informe.pdf" "$trabajo/informe$sufijo"
+    pdftoppm -r $((porcentaje * 7 / 10)) -gray -png -singlefile "$trabajo/recibo.pdf" "$trabajo/recibo$sufijo"
 done
 mv "$trabajo"/*.png "$imagenes"
 avisa "The pictures are in docs/imagenes: look at them before they are committed."

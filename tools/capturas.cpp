@@ -1,16 +1,19 @@
 // Takes the pictures of the documentation: capturas DATA_DIRECTORY PICTURE_DIRECTORY SUFFIX
 //
 // The program runs as ever, on one fixed day and a screen of one size, but nobody sees it: its windows are
-// painted into files. It writes cases into the data directory, and the printed report, informe.pdf, beside
-// the pictures.
+// painted into files. It writes cases into the data directory, and what it prints, informe.pdf and
+// recibo.pdf, beside the pictures.
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <functional>
+#include <map>
+#include <utility>
 #include <vector>
 
 #include "catalogue/catalogo.h"
@@ -31,14 +34,15 @@ using namespace orvemo;
 
 constexpr int kUsoIncorrecto = 2;
 constexpr QSize kPantalla{1366, 768};
-constexpr int kDesempleo = 5;           // option of the menu
+constexpr int kDesempleo = 5;  // options of the menu
+constexpr int kNominas = 9;
 constexpr int kPaso = 80;               // milliseconds, for the windows to settle
 constexpr QColor kVelo{0, 0, 0, 0x30};  // over the window behind a dialog
 
 /// The day on which the pictures are taken.
 class RelojDeCapturas final : public Reloj {
   public:
-    [[nodiscard]] Fecha hoy() const override { return FechaDMA(15, 6, 2005); }
+    [[nodiscard]] Fecha hoy() const override { return FechaDMA(31, 10, 2005); }
 };
 
 /// Writes the menu at once: the cover's second makes no picture.
@@ -75,6 +79,12 @@ void teclea(Qt::Key tecla) {
     QApplication::sendEvent(ventana().focusWidget(), &pulsada);
 }
 
+void escribe(const char* campo, const char* texto) {
+    auto* linea = ventana().findChild<QLineEdit*>(QLatin1String{campo});
+    if (linea == nullptr) throw std::runtime_error{std::string{"there is no field "} + campo};
+    linea->setText(aQt(texto));
+}
+
 /// A window as it is, or a dialog over the window behind it.
 QPixmap pintada(QWidget& modal, bool dialogo) {
     if (!dialogo) return modal.grab();
@@ -91,10 +101,28 @@ QPixmap pintada(QWidget& modal, bool dialogo) {
     return lienzo;
 }
 
+/// The picture in its commonest colours: nobody sees the difference, and it takes half the bytes.
+QImage conPocosColores(const QImage& imagen) {
+    constexpr std::size_t kColores = 256;
+    std::map<QRgb, int> veces;
+    for (int y = 0; y < imagen.height(); ++y)
+        for (int x = 0; x < imagen.width(); ++x) ++veces[imagen.pixel(x, y)];
+    std::vector<std::pair<int, QRgb>> colores;
+    for (const auto& [color, cuantas] : veces) colores.emplace_back(cuantas, color);
+    std::ranges::sort(colores, std::greater{});
+    QList<QRgb> tabla;
+    for (std::size_t i = 0; i < std::min(kColores, colores.size()); ++i) tabla << colores[i].second;
+    return imagen.convertToFormat(QImage::Format_Indexed8, tabla);
+}
+
 class Sesion {
   public:
-    Sesion(VistaMenu& menu, Programa& programa, QString carpeta, QString sufijo)
-        : menu_{menu}, programa_{programa}, carpeta_{std::move(carpeta)}, sufijo_{std::move(sufijo)} {}
+    Sesion(VistaMenu& menu, Programa& programa, ImpresoraPdf& impresora, QString carpeta, QString sufijo)
+        : menu_{menu},
+          programa_{programa},
+          impresora_{impresora},
+          carpeta_{std::move(carpeta)},
+          sufijo_{std::move(sufijo)} {}
 
     /// Goes through the program step by step; each begins once the windows of the one before have settled.
     void sigue(std::size_t paso = 0) {
@@ -109,11 +137,18 @@ class Sesion {
     void captura(const char* nombre, const QPixmap& imagen) const {
         const QString fichero =
             carpeta_ + QLatin1Char('/') + QLatin1String{nombre} + sufijo_ + QStringLiteral(".png");
-        if (!imagen.save(fichero)) throw std::runtime_error{"cannot write " + deQt(fichero)};
+        if (!conPocosColores(imagen.toImage()).save(fichero))
+            throw std::runtime_error{"cannot write " + deQt(fichero)};
+    }
+
+    /// The next document goes into that file beside the pictures.
+    void imprimeEn(const char* nombre) const {
+        impresora_.ponRuta(deQt(carpeta_ + QLatin1Char('/') + QLatin1String{nombre}));
     }
 
     VistaMenu& menu_;
     Programa& programa_;
+    ImpresoraPdf& impresora_;
     QString carpeta_;
     QString sufijo_;
     std::vector<std::function<void()>> pasos_{
@@ -128,8 +163,38 @@ class Sesion {
         [] { pulsa("BotonGraba"); },
         [this] { captura("grabar", pintada(ventana(), true)); },
         [] { pulsa("BotonCancelar"); },
+        [this] { imprimeEn("informe.pdf"); },
         [] { pulsa("BotonPrint"); },
         [] { pulsa("BotonExit"); },
+        // A month with sick leave, the last of the examples by name, and a dismissal, the second.
+        [this] { programa_.Opcion(kNominas); },
+        [] { pulsa("NomiBotonCarga"); },
+        [] { teclea(Qt::Key_End); },
+        [] { teclea(Qt::Key_Return); },
+        [this] { captura("nomina-contrato", pintada(ventana(), false)); },
+        [] { pulsa("NomiSig0"); },
+        [] { pulsa("NomiSig1"); },
+        [this] { captura("nomina-recibo", pintada(ventana(), false)); },
+        [] { pulsa("NomiBotonPrint"); },
+        [] {
+            escribe("DatosEmpresa", "Talleres del Norte, S.L.");
+            escribe("DatosDomicilio", "Calle Mayor, 1. 28013 Madrid");
+            escribe("DatosCif", "B-12345678");
+            escribe("DatosCuentaSS", "28/123456789");
+            escribe("NomiNIF", "00000001R");
+            escribe("NomiNumMatricula", "12");
+            escribe("NomiCuentaSS", "28/1234567890");
+            escribe("NomiGrupoProfesional", "Auxiliar administrativa");
+        },
+        [this] { imprimeEn("recibo.pdf"); },
+        [] { pulsa("ImpresionImprime"); },
+        [] { pulsa("NomiBotonCarga"); },
+        [] { teclea(Qt::Key_Home); },
+        [] { teclea(Qt::Key_Down); },
+        [] { teclea(Qt::Key_Return); },
+        [] { pulsa("NomiSig0"); },
+        [this] { captura("nomina-finiquito", pintada(ventana(), false)); },
+        [] { pulsa("NomiBotonExit"); },
         [] { QApplication::quit(); },
     };
 };
@@ -152,7 +217,7 @@ int ejecuta(Aplicacion& aplicacion, Mensajes& mensajes, const QStringList& argum
     instalaEstilo(aplicacion, kPantalla);
     DirectorioAplicacion almacen{deQt(argumentos[1])};
     const RelojDeCapturas reloj;
-    ImpresoraPdf impresora{almacen, deQt(argumentos[2] + QStringLiteral("/informe.pdf"))};
+    ImpresoraPdf impresora{almacen};
     RutinasImpresion rutinas;
     ValoresPrograma valores;
     Entorno entorno{mensajes, reloj, almacen, impresora, rutinas, valores};
@@ -161,7 +226,7 @@ int ejecuta(Aplicacion& aplicacion, Mensajes& mensajes, const QStringList& argum
     Programa programa{entorno, PantallasDelMenu(CalculadorasDelPrograma()), vista};
     programa.Inicia();
     menu.muestra(programa);
-    Sesion sesion{menu, programa, argumentos[2], argumentos.value(3)};
+    Sesion sesion{menu, programa, impresora, argumentos[2], argumentos.value(3)};
     sesion.sigue();
     return aplicacion.exec();
 }

@@ -56,7 +56,7 @@ def rellena_los_conceptos(programa):
 
 def rellena_la_baja(programa):
     pulsa(*["Tab"] * 8)  # two rows of concepts are left
-    programa.espera_foco("Código 1")
+    programa.espera_foco("Incidencia 1")
     rellena("1", "", "15", "24")
     pulsa("alt+Right")
     rellena("1450", "1490", "40", "360", "30")

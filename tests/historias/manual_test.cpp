@@ -13,6 +13,8 @@
 #include "apoyo/entorno_falso.h"
 #include "catalogue/catalogo.h"
 #include "foundations/frame/asistente.h"
+#include "foundations/values/textos.h"
+#include "payroll/pantallas/paneles.h"
 
 namespace orvemo::pruebas {
 namespace {
@@ -31,7 +33,7 @@ std::string_view sinDosPuntos(std::string_view rotulo) {
 }
 
 /// How the manual names a field.
-std::string etiquetaDe(Asistente& frm, const Campo& campo) {
+std::string etiquetaDe(Calculadora& frm, const Campo& campo) {
     const Grupo* grupo = campo.def().grupo;
     if (grupo == nullptr || grupo->def().encabezados.empty())
         return std::string{sinDosPuntos(campo.rotulo())};
@@ -46,7 +48,7 @@ std::string etiquetaDe(Asistente& frm, const Campo& campo) {
 }
 
 /// The field of the panel on view that bears the label; null without one.
-Campo* busca(Asistente& frm, const std::string& rotulo) {
+Campo* busca(Calculadora& frm, const std::string& rotulo) {
     const auto esEse = [&](const Campo& campo) {
         return frm.enPantalla(campo) && etiquetaDe(frm, campo) == rotulo;
     };
@@ -94,11 +96,17 @@ std::vector<CasoDelManual> casosDelManual(const std::string& ruta, std::string_v
     return casos;
 }
 
+/// The button that goes on from the panel on view.
+Campo& siguiente(Calculadora& frm) {
+    if (auto* asistente = dynamic_cast<Asistente*>(&frm)) return asistente->Siguiente;
+    return frm.campo("NomiSig" + std::to_string(frm.PantallaActual()));
+}
+
 /// Writes on the field that bears the label, as the user would, going on to the panel where it stands.
-void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const std::string& valor) {
+void rellenaComoElManual(Calculadora& frm, const std::string& rotulo, const std::string& valor) {
     Campo* campo = busca(frm, rotulo);
     while (campo == nullptr && frm.PantallaActual() + 1 < frm.ultimaPantalla()) {
-        ASSERT_TRUE(frm.pulsa(frm.Siguiente)) << rotulo;
+        ASSERT_TRUE(frm.pulsa(siguiente(frm))) << rotulo;
         campo = busca(frm, rotulo);
     }
     ASSERT_NE(campo, nullptr) << "not on view: " << rotulo;
@@ -108,7 +116,7 @@ void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const std::s
     } else if (campo->def().clase == Clase::Casilla) {
         frm.marca(*campo, valor == "sí");
     } else if (campo->esLista()) {
-        const auto opcion = std::ranges::find(campo->opciones(), valor);
+        const auto opcion = std::ranges::find(campo->opciones(), valor, Recorta);
         ASSERT_NE(opcion, campo->opciones().end()) << valor;
         frm.elige(*campo, static_cast<int>(opcion - campo->opciones().begin()));
     } else {
@@ -116,12 +124,15 @@ void rellenaComoElManual(Asistente& frm, const std::string& rotulo, const std::s
     }
 }
 
-/// The conclusions of the case on screen, its line ends as "\n" and none missing at the end.
-std::string conclusionDelPrograma(Asistente& frm) {
-    for (int i = 0; i < frm.numPantallas() && frm.PantallaActual() != frm.ultimaPantalla(); ++i) {
-        EXPECT_TRUE(frm.pulsa(frm.Siguiente));
+/// What the program says of the case on screen, conclusions or a receipt, its line ends as "\n" and none
+/// missing at the end.
+std::string conclusionDelPrograma(Calculadora& frm) {
+    auto* asistente = dynamic_cast<Asistente*>(&frm);
+    const int ultima = asistente == nullptr ? nomina::kRecibo : frm.ultimaPantalla();
+    for (int i = 0; i < frm.numPantallas() && frm.PantallaActual() != ultima; ++i) {
+        EXPECT_TRUE(frm.pulsa(siguiente(frm)));
     }
-    std::string texto = frm.textoConclusion();
+    std::string texto = asistente == nullptr ? frm.textoResultados() : asistente->textoConclusion();
     std::erase(texto, '\r');
     if (!texto.ends_with('\n')) texto += '\n';
     return texto;
@@ -142,13 +153,15 @@ constexpr Capitulo kCapitulos[] = {
     {"Jubilación e invalidez no contributivas", "nocontributiva"},
     {"Protección familiar", "familiar"},
     {"Capitalización de pensiones", "capital"},
+    {"Nóminas", "nomina"},
     {"Retenciones del IRPF", "irpf"},
 };
 
 TEST(Manual, TellsItsStoriesAsTheProgramDoes) {
     EntornoFalso mundo;
     const DirectorioAplicacion datos{ORVEMO_DATOS};
-    for (const char* fichero : {"ipc.txt", "tarif1.nom", "tarif4.nom", "tarif6.nom"})
+    for (const char* fichero :
+         {"ipc.txt", "tarif1.nom", "tarif4.nom", "tarif6.nom", "CONTRATO.NOM", "EPIG.NOM"})
         mundo.almacen[fichero] = datos.leeTodo(fichero);
     for (const auto& [titulo, calculadora] : kCapitulos) {
         SCOPED_TRACE(titulo);
@@ -158,7 +171,7 @@ TEST(Manual, TellsItsStoriesAsTheProgramDoes) {
         const auto entrada = std::ranges::find(catalogo, calculadora, &EntradaCatalogo::clave);
         for (const CasoDelManual& caso : casos) {
             const auto abierta = entrada->registro.abre(mundo.entorno);
-            auto& frm = dynamic_cast<Asistente&>(*abierta);
+            Calculadora& frm = *abierta;
             frm.Inicia();
             for (const auto& [rotulo, valor] : caso.campos) rellenaComoElManual(frm, rotulo, valor);
             EXPECT_EQ(conclusionDelPrograma(frm), caso.conclusion);

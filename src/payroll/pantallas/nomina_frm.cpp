@@ -247,7 +247,7 @@ void NominaFrm::declaraIncidencias() {
                            .titulo = "Incidencias del mes",
                            .disposicion = Disposicion::Tabla,
                            .columnas = 5,
-                           .encabezados = {"Código", "", "Incidencia", "del día", "al"},
+                           .encabezados = {"Incidencia", "", "Descripción", "del día", "al"},
                            .alLado = true});
     for (int i = 0; i < kIncidencias; ++i) {
         nuevo({.nombre = "NomiIncidencia",
