@@ -89,12 +89,10 @@ class Abierta {
     std::unique_ptr<Calculadora> frm_;
 };
 
-std::vector<Abierta*> abreTodas() {
-    std::vector<Abierta*> abiertas;
+std::vector<std::unique_ptr<Abierta>> abreTodas() {
+    std::vector<std::unique_ptr<Abierta>> abiertas;
     for (const EntradaCatalogo& entrada : CalculadorasDelPrograma()) {
-        // They live as long as the fuzzer does.
-        if (entrada.registro.abre != nullptr)
-            abiertas.push_back(std::make_unique<Abierta>(entrada.registro).release());
+        if (entrada.registro.abre != nullptr) abiertas.push_back(std::make_unique<Abierta>(entrada.registro));
     }
     return abiertas;
 }
@@ -102,7 +100,7 @@ std::vector<Abierta*> abreTodas() {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t cuantos) {
-    static const std::vector<Abierta*> abiertas = abreTodas();
+    static const std::vector<std::unique_ptr<Abierta>> abiertas = abreTodas();
     if (cuantos == 0) return 0;
     abiertas[datos[0] % abiertas.size()]->recorre({reinterpret_cast<const char*>(datos + 1), cuantos - 1});
     return 0;
