@@ -35,6 +35,7 @@ BotonOpcion::BotonOpcion(const DefOpcion& def, int indice, QWidget* padre)
       calcula_{def.materia != Materia::Consulta} {
     setObjectName(QStringLiteral("Opcion%1").arg(indice));
     setAccessibleName(text().remove(QLatin1Char('&')));
+    setAccessibleDescription(aQt(tituloDe(def.materia)));
     ponPuesto(def.puesto, def.puesto.top());
 }
 

@@ -1,6 +1,8 @@
 #include "toolkit/linea_campo.h"
 
+#include <QClipboard>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QStyleOptionFrame>
@@ -175,6 +177,8 @@ void LineaCampo::keyPressEvent(QKeyEvent* suceso) {
         if (const Campo* otro = enOtraFila(arriba ? -1 : 1)) anfitrion().enfoca(*otro);
         return;
     }
+    // With nothing to paste the toolkit would still take what is selected away.
+    if (suceso->matches(QKeySequence::Paste) && QGuiApplication::clipboard()->text().isEmpty()) return;
     if (isReadOnly() || !escribeTexto(*suceso)) {
         QLineEdit::keyPressEvent(suceso);
         return;

@@ -104,14 +104,6 @@ bool ponEncabezados(QGridLayout& rejilla, const DefGrupo& def) {
     return alguno;
 }
 
-/// In tables and beside others a field that hides leaves its place empty: the columns must not jump while the
-/// user types. A row of its own gives its room to those below.
-bool conservaSuSitio(const Campo& campo) {
-    const Grupo* grupo = campo.def().grupo;
-    const bool enFilas = grupo == nullptr || grupo->def().disposicion == Disposicion::Filas;
-    return !esVeredicto(campo) && (!enFilas || campo.def().mismaLinea);
-}
-
 void conservaSitio(QWidget& widget) {
     QSizePolicy politica = widget.sizePolicy();
     politica.setRetainSizeWhenHidden(true);
@@ -138,6 +130,14 @@ int anchoDeRotulos(const QGridLayout& rejilla) {
 
 }  // namespace
 
+/// In tables and before others a field that hides leaves its place empty: the columns must not jump while the
+/// user types. The end of a row and a row of its own leave nothing.
+bool PanelFormulario::conservaSuSitio(const Campo& campo) const {
+    const Grupo* grupo = campo.def().grupo;
+    const bool enFilas = grupo == nullptr || grupo->def().disposicion == Disposicion::Filas;
+    return !esVeredicto(campo) && (!enFilas || (campo.def().mismaLinea && &campo != finDeLinea_));
+}
+
 PanelFormulario::PanelFormulario(int pantalla, Anfitrion& anfitrion) : anfitrion_{anfitrion} {
     const bool denso = anfitrion.formulario().panel(pantalla).denso;
     setProperty(kPropiedadDenso, denso);
@@ -149,7 +149,7 @@ PanelFormulario::PanelFormulario(int pantalla, Anfitrion& anfitrion) : anfitrion
         if (bloque.grupo == nullptr) {
             agregaSueltos(bloque.filas);
         } else {
-            agregaGrupo(*bloque.grupo, bloque.filas);
+            agregaGrupo(bloque);
         }
     }
     pila->addStretch(0);
@@ -219,7 +219,9 @@ void PanelFormulario::agregaSueltos(const Filas& filas) {
     alineadas_.push_back(rejilla);
 }
 
-void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
+void PanelFormulario::agregaGrupo(const Bloque& bloque) {
+    const Grupo& grupo = *bloque.grupo;
+    const Filas& filas = bloque.filas;
     const DefGrupo& def = grupo.def();
     const bool conTitulo = !grupo.titulo().empty();
     QWidget* marco = conTitulo ? new QGroupBox{this} : new QWidget{this};
@@ -242,7 +244,8 @@ void PanelFormulario::agregaGrupo(const Grupo& grupo, const Filas& filas) {
             break;
     }
     // Beside a taller one its rows stay together at the top.
-    if (!algunaCrece(*rejilla)) rejilla->setRowStretch(rejilla->rowCount(), 1);
+    const bool acompanado = bloque.enFila > 1 || def.disposicion != Disposicion::Filas;
+    if (acompanado && !algunaCrece(*rejilla)) rejilla->setRowStretch(rejilla->rowCount(), 1);
     refresca(grupo);
 }
 
@@ -401,6 +404,7 @@ void PanelFormulario::ponVeredictos(QGridLayout& rejilla, const Filas& filas) {
 QLayout* PanelFormulario::enLinea(const Fila& campos, RotuloDelPrimero rotulo) {
     auto* linea = new QHBoxLayout;
     linea->setSpacing(px(kHuecoColumnas / 2));
+    finDeLinea_ = campos.back();
     for (Campo* campo : campos) {
         Control& control = crea(*campo);
         const bool rotulado = campo != campos.front() || rotulo == RotuloDelPrimero::EnLinea;

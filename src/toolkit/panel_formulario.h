@@ -38,7 +38,7 @@ class PanelFormulario final : public QWidget {
     void coloca(QWidget* marco, bool alLado);
     [[nodiscard]] QGridLayout* nuevaRejilla(QWidget* marco) const;
     void agregaSueltos(const Filas& filas);
-    void agregaGrupo(const Grupo& grupo, const Filas& filas);
+    void agregaGrupo(const Bloque& bloque);
 
     void reparteEnFilas(QGridLayout& rejilla, const Filas& filas);
     void reparteEnTabla(QGridLayout& rejilla, const Filas& filas, const DefGrupo& def);
@@ -55,6 +55,7 @@ class PanelFormulario final : public QWidget {
     enum class RotuloDelPrimero { Aparte, EnLinea };
     [[nodiscard]] QLayout* enLinea(const Fila& campos, RotuloDelPrimero rotulo);
 
+    [[nodiscard]] bool conservaSuSitio(const Campo& campo) const;
     Control& crea(Campo& campo);
     [[nodiscard]] QLabel* creaRotulo(Control& control, int anchoMaximo);
 
@@ -62,6 +63,7 @@ class PanelFormulario final : public QWidget {
     std::vector<Control*> controles_;
     std::map<const Grupo*, QWidget*> marcos_;
     QHBoxLayout* fila_ = nullptr;          ///< of the block laid out last
+    const Campo* finDeLinea_ = nullptr;    ///< of the row being laid out
     int anchoRotulo_ = 0;                  ///< that labels may have in the block being laid out
     std::vector<QGridLayout*> alineadas_;  ///< the grids of labels and fields without a frame
     std::vector<QGridLayout*> enMarco_;    ///< those within one
