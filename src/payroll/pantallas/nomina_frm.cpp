@@ -64,7 +64,7 @@ NominaFrm::NominaFrm(Entorno& entorno)
                                     "Datos adicionales para el finiquito", "Recibo de nóminas del trabajador",
                                     "Datos para el impreso TC/2", "Datos para el impreso TC/1",
                                     "Datos para el impreso TC/1 (Situación de Desempleo Parcial)",
-                                    "Impresión"},
+                                    "Impresión", "Lista de conceptos", "Lista de incidencias"},
                      .campoNombre = "NomiNombre",
                      .prefijoBarra = "Nomi"}},
       listaConceptos_{ListaConceptos()},
@@ -79,6 +79,7 @@ NominaFrm::NominaFrm(Entorno& entorno)
     declaraRecibo();
     declaraFormularios();
     declaraSalida();
+    declaraAyudas();
     enlazaContrato();
     enlazaFilas();
     enlazaAdicionales();
@@ -215,7 +216,7 @@ void NominaFrm::declaraConceptos() {
                .alSalir = [this, i](Campo&) { dejaConcepto(concepto(i)); },
                .anchura = 3});
         DefCampo ayuda = interrogacion("NomiConceptoAyuda", "Lista de conceptos", [this, i](Campo&) {
-            muestraAyuda("NomiConceptos", concepto(i).codigo);
+            muestraAyuda(kAyudaConceptos, concepto(i).codigo);
         });
         ayuda.indice = i;
         ayuda.grupo = &g;
@@ -257,7 +258,7 @@ void NominaFrm::declaraIncidencias() {
                .alSalir = [this, i](Campo&) { dejaIncidencia(incidencia(i)); },
                .anchura = 3});
         DefCampo ayuda = interrogacion("NomiInciAyuda", "Lista de incidencias", [this, i](Campo&) {
-            muestraAyuda("NomiIncidencias", incidencia(i).codigo);
+            muestraAyuda(kAyudaIncidencias, incidencia(i).codigo);
         });
         ayuda.indice = i;
         ayuda.grupo = &g;
@@ -283,22 +284,28 @@ void NominaFrm::declaraIncidencias() {
                    },
                .anchura = 3});
     }
-    nuevo({.nombre = "NomiConceptos",
-           .clase = Clase::ListaAbierta,
-           .opciones = listaConceptos_,
-           .alPulsar = [this](Campo& l) { copiaCodigo(l, 2); },
-           .visible = false});
-    nuevo({.nombre = "NomiIncidencias",
-           .clase = Clase::ListaAbierta,
-           .opciones = listaIncidencias_,
-           .alPulsar = [this](Campo& l) { copiaCodigo(l, 1); },
-           .visible = false});
     boton("NomiSig0", "(Continuación...)", kContrato, &NominaFrm::dejaContrato);
+}
+
+/// The lists that the "?" of a row opens, a panel each.
+void NominaFrm::declaraAyudas() {
+    const auto ayuda = [this](int pantalla, const char* lista, const char* vuelve,
+                              const std::vector<std::string>& opciones, std::size_t ancho) {
+        nuevo({.nombre = lista,
+               .clase = Clase::ListaAbierta,
+               .pantalla = pantalla,
+               .opciones = opciones,
+               .alPulsar = [this, ancho](Campo& l) { copiaCodigo(l, ancho); }});
+        boton(vuelve, "(Pantalla Anterior...)", pantalla, &NominaFrm::cierraAyuda);
+    };
+    ayuda(kAyudaConceptos, "NomiConceptos", "NomiConceptosVuelve", listaConceptos_, 2);
+    ayuda(kAyudaIncidencias, "NomiIncidencias", "NomiIncidenciasVuelve", listaIncidencias_, 1);
 }
 
 // --- Panel 1
 
 void NominaFrm::declaraExtraYParcial() {
+    ponPanel(kAdicionales, {.denso = true});
     Grupo& extra = nuevoGrupo(
         {.nombre = "NomiExtraLbl",
          .titulo = "-> Periodo mínimo de alta requerido para recibir la gratificación extraordinaria:",
@@ -351,7 +358,8 @@ void NominaFrm::declaraBaja() {
            .grupo = &g,
            .defecto = "LMWJVSD",
            .largo = 7,
-           .filtro = TeclaMayuscula});
+           .filtro = TeclaMayuscula,
+           .anchura = kAnchoNumero});
     DefCampo horas = sitio;
     horas.defecto = "6";
     numero("NomiHorasDiarias", "-> Horas diarias del contrato:", horas);

@@ -66,6 +66,7 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void declaraLineas(DefGrupo def, const char* texto, const char* euros, int sitio);
     void declaraFormularios();
     void declaraSalida();
+    void declaraAyudas();
     void enlazaContrato();
     void enlazaFilas();
     void enlazaAdicionales();
@@ -87,8 +88,9 @@ class NominaFrm final : public CalculadoraDe<nomina::RegistroNomina, nomina::kDi
     void proponePeriodo(FilaConcepto fila, char Periodicidad);
     void compruebaImporte(FilaConcepto fila);
     void compruebaDia1(FilaIncidencia fila);
-    void muestraAyuda(std::string_view lista, Campo& destino);
+    void muestraAyuda(int pantalla, Campo& destino);
     void copiaCodigo(Campo& lista, std::size_t ancho);
+    void cierraAyuda();
     void cambiaGrupoContrato();
     void ajustaCamposContrato();
     void avisaExtras();

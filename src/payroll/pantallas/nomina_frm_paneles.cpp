@@ -124,18 +124,20 @@ void NominaFrm::compruebaDia1(FilaIncidencia fila) {
 
 // --- Reactions
 
-void NominaFrm::muestraAyuda(std::string_view lista, Campo& destino) {
-    for (const std::string_view otra : {"NomiConceptos", "NomiIncidencias"})
-        campo(otra).ponVisible(otra == lista);
+void NominaFrm::muestraAyuda(int pantalla, Campo& destino) {
     destinoAyuda_ = &destino;
-    enfoca(campo(lista));
+    MuestraPantalla(pantalla);
 }
 
 void NominaFrm::copiaCodigo(Campo& lista, std::size_t ancho) {
-    lista.ponVisible(false);
-    if (destinoAyuda_ == nullptr) return;
-    destinoAyuda_->ponTexto(std::string{PrimerosCaracteres(lista.texto(), ancho)});
-    enfoca(*destinoAyuda_);
+    if (destinoAyuda_ != nullptr)
+        destinoAyuda_->ponTexto(std::string{PrimerosCaracteres(lista.texto(), ancho)});
+    cierraAyuda();
+}
+
+void NominaFrm::cierraAyuda() {
+    MuestraPantalla(kContrato);
+    if (destinoAyuda_ != nullptr) enfoca(*destinoAyuda_);
 }
 
 void NominaFrm::cambiaGrupoContrato() {

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "foundations/frame/declaraciones.h"
+#include "foundations/values/numeros.h"
 #include "foundations/values/textos.h"
 #include "payroll/pantallas/nomina_frm.h"
 #include "payroll/pantallas/pagina_previa.h"
@@ -49,7 +50,8 @@ void NominaFrm::declaraSalida() {
 
 /// The forms tell the company and the worker: they are asked for first.
 void NominaFrm::alImprimir() {
-    if (PantallaActual() < kRecibo) CalculaSupuesto();
+    const bool trasElRecibo = EntreLimites(PantallaActual(), kRecibo, kSalida);
+    if (!trasElRecibo) CalculaSupuesto();
     Campo& trabajador = campo("NomiTrabajador");
     if (EsVacio(trabajador.texto())) trabajador.ponTexto(campo("NomiNombre").texto());
     MuestraPantalla(kSalida);

@@ -11,5 +11,7 @@ inline constexpr int kTC2 = 4;
 inline constexpr int kTC1 = 5;
 inline constexpr int kTC13 = 6;
 inline constexpr int kSalida = 7;
+inline constexpr int kAyudaConceptos = 8;
+inline constexpr int kAyudaIncidencias = 9;
 
 }  // namespace orvemo::nomina

@@ -20,6 +20,7 @@ TEST_F(Nomina, WhatIsEnteredChoosesTheRoad) {
         const char* titulo;
         std::function<void()> entra;
         std::vector<int> paneles;
+        bool conTC13 = false;  ///< a third panel of figures for the forms
     };
     const Camino caminos[] = {
         {"a plain month", [] {}, {3}},
@@ -37,7 +38,7 @@ TEST_F(Nomina, WhatIsEnteredChoosesTheRoad) {
              pon("NomiFechaInci1", "3");
          },
          {3}},
-        {"partial unemployment", [&] { pon("NomiDesempleo", "0,5"); }, {1, 3}},
+        {"partial unemployment", [&] { pon("NomiDesempleo", "0,5"); }, {1, 3}, true},
         {"none, though it says 1", [&] { pon("NomiDesempleo", "1"); }, {3}},
         {"a contract by days", [&] { elige("TipoContrato", 1); }, {1, 3}},
         {"someone who leaves", [&] { pon("NomiFechaBaja", "20-01-2005"); }, {2, 3}},
@@ -54,6 +55,10 @@ TEST_F(Nomina, WhatIsEnteredChoosesTheRoad) {
         frm.pulsa(frm.BotonNuevo);
         camino.entra();
         EXPECT_EQ(recorrido(), camino.paneles);
+        for (const char* boton : {"NomiSig3", "NomiSig4", "NomiSig5"}) pulsa(boton);
+        EXPECT_EQ(frm.PantallaActual(), camino.conTC13 ? 6 : 5);
+        for (const char* boton : {"NomiAnt6", "NomiAnt5", "NomiAnt4", "NomiAnt3"}) pulsa(boton);
+        EXPECT_EQ(frm.PantallaActual(), 0);
     }
 }
 
@@ -77,7 +82,12 @@ TEST_F(Nomina, ARowOfConceptsFollowsItsCode) {
     elige("NomiConceptos", 1);
     frm.doblePulsa(frm.campo("NomiConceptos"));
     EXPECT_EQ(texto("NomiConcepto", 4), "02");
-    EXPECT_FALSE(visible("NomiConceptos"));
+    EXPECT_EQ(frm.actual(), &frm.campo("NomiConcepto", 4));
+    frm.pulsa(frm.campo("NomiInciAyuda", 1));
+    EXPECT_EQ(frm.Subtitulo(), "Lista de incidencias");
+    pulsa("NomiIncidenciasVuelve");
+    EXPECT_EQ(texto("NomiIncidencia", 1), "");
+    EXPECT_EQ(frm.PantallaActual(), 0);
 }
 
 TEST_F(Nomina, TheContractDecidesWhatIsAsked) {
