@@ -40,7 +40,8 @@ function(orvemo_biblioteca nombre)
     if(ORVEMO_TIDY)
         # Each header compiles alone.
         file(GLOB_RECURSE cabeceras CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
-        target_sources(${nombre} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${cabeceras})
+        target_sources(${nombre} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tools
+                       FILES ${cabeceras})
         set_target_properties(${nombre} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
     endif()
 endfunction()
