@@ -3,7 +3,6 @@
 
 #include "apoyo/almacen_memoria.h"
 #include "foundations/values/fallos.h"
-#include "payroll/caso/archivo_nominas.h"
 #include "payroll/caso/calcula_nomina.h"
 #include "payroll/caso/opciones_impresion.h"
 
@@ -16,13 +15,6 @@ RegistroNomina deNombre(std::string_view nombre) {
     RegistroNomina r;
     r.Nombre.asigna(nombre);
     return r;
-}
-
-/// The first byte and the name of each record.
-std::string resumen(const std::string& bytes) {
-    std::string texto;
-    for (std::size_t i = 0; i < bytes.size(); i += 1046) texto += bytes.substr(i, 3) + ";";
-    return texto;
 }
 
 TEST(NominasNom, FieldsLieWhereTheyAlwaysDid) {
@@ -46,22 +38,6 @@ TEST(NominasNom, FieldsLieWhereTheyAlwaysDid) {
     EXPECT_EQ(bytes.substr(740, 4), (std::string{"\0\0\x48\x41", 4}));
     EXPECT_EQ(bytes.substr(748, 8), (std::string{"\0\0\0\0\0\x40\x8F\x40", 8}));
     EXPECT_EQ(bytes.substr(852, 7), "LMWJV  ");
-}
-
-TEST(NominasNom, ANewCaseTakesTheFirstFreeSlotAndAnOldOneItsOwn) {
-    AlmacenMemoria almacen;
-    ArchivoNominas archivo{almacen};
-    for (const char* nombre : {"A1", "B1", "C1"}) archivo.AltaCaso(deNombre(nombre));
-    std::string& bytes = almacen["nominas.nom"];
-    bytes[1046] = '*';
-    EXPECT_EQ(archivo.GrabaCaso(0, deNombre("B1")), std::nullopt);
-    EXPECT_EQ(resumen(bytes), " A1;*B1; C1;");
-    EXPECT_EQ(archivo.AltaCaso(deNombre("D1")), 2);
-    EXPECT_EQ(archivo.AltaCaso(deNombre("E1")), 4);
-    EXPECT_EQ(archivo.GrabaCaso(0, deNombre("C1")), 3);
-    EXPECT_EQ(archivo.GrabaCaso(1, deNombre("F1")), 1);
-    EXPECT_EQ(resumen(bytes), " F1; D1; C1; E1;");
-    EXPECT_EQ(archivo.LeeCaso(2).Nombre.utf8(), "D1");
 }
 
 TEST(OpcionesNom, TheCompanyIsKeptAndAFailureLeavesWhatWas) {

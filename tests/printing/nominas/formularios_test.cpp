@@ -114,6 +114,14 @@ TEST_F(Formularios, AnExtraPayHasItsOwnPeriod) {
               std::string::npos);
 }
 
+TEST_F(Formularios, ATrainingContractHasOneBaseAndNoRates) {
+    const std::string hoja = recibo("A training contract");
+    for (const char* fila :
+         {"Contingencias comunes | 5,25\nDesempleo\n", "TOTAL | 448,80\n",
+          "ceptos de recaudación conjunta (Fondo de Garantía Salarial) (Epígrafe 113) | 448,80\n"})
+        EXPECT_NE(hoja.find(fila), std::string::npos) << fila << "not in\n" << hoja;
+}
+
 TEST_F(Formularios, TheContributionFormOfAMonthWithSickLeave) {
     calcula("Sick from the 9th to the 30th");
     DestinoGrabador papel;
