@@ -30,6 +30,8 @@ void Control::refrescaNombre() {
     if (campo_.def().clase == Clase::Boton) nombre.remove(QLatin1Char('&'));  // its mnemonic
     if (nombre.isEmpty() || campo_.def().pequeno) nombre = aQt(campo_.def().ayuda);
     if (nombre.isEmpty()) nombre = nombreAccesible_;
+    const Grupo* grupo = campo_.def().grupo;
+    if (nombre.isEmpty() && grupo != nullptr) nombre = aQt(grupo->titulo());
     widget().setAccessibleName(nombre);
 }
 

@@ -25,6 +25,7 @@ constexpr int kRellenoBoton = 180;
 constexpr int kAnchoBoton = 800;  // at least
 constexpr int kRellenoPequeno = 120;
 constexpr int kBajoTitulo = 30;
+constexpr int kAireMinimo = 3;  // pixels over and under a line of text, whatever the scale
 constexpr int kAnchoBarra = 180;
 constexpr int kTiradorMinimo = 360;
 constexpr int kAireTirador = 45;
@@ -230,7 +231,8 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption* opcion, const QW
 QSize Estilo::sizeFromContents(ContentsType clase, const QStyleOption* opcion, const QSize& contenido,
                                const QWidget* widget) const {
     QSize talla = QProxyStyle::sizeFromContents(clase, opcion, contenido, widget);
-    const int alto = qRound(opcion->fontMetrics.height() * (enPanelDenso(widget) ? 1.2 : 1.55));
+    const int renglon = qRound(QFontMetricsF{opcion->fontMetrics}.height());
+    const int alto = qMax(qRound(renglon * (enPanelDenso(widget) ? 1.2 : 1.55)), renglon + kAireMinimo);
     if (clase == CT_LineEdit || clase == CT_ComboBox) talla.setHeight(alto);
     if (clase == CT_ItemViewItem)
         talla.setHeight(qMax(talla.height(), qRound(opcion->fontMetrics.height() * 1.35)));

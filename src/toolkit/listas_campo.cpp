@@ -16,7 +16,7 @@ constexpr int kAnchuraMinima = 6;
 constexpr int kAnchuraMaxima = 44;
 constexpr int kAnchuraEstrecha = 20;
 
-constexpr int kFilasMinimas = 4;  // lines of text of a list box
+constexpr int kFilasMinimas = 3;  // lines of text of a list box
 
 constexpr int kMargenDeLista = 120;  // twips beside the widest entry when the list drops down
 

@@ -84,6 +84,7 @@ void VistaSupuestos::closeEvent(QCloseEvent* suceso) {
 void VistaSupuestos::agregaLista() {
     auto* rotulo = new QLabel{QStringLiteral("Supuestos existentes en la base de datos"), this};
     rotulo->setBuddy(lista_);
+    lista_->setAccessibleName(rotulo->text());
     columna_->addWidget(rotulo);
     columna_->addWidget(lista_, 1);
 }
