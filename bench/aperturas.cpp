@@ -1,6 +1,6 @@
-// Opening the retirement screen, with its 196 lines of bases, and that of incapacity, with 96, beside opening
-// the one of unemployment, and going on to a panel of bases: model, window and first painting, on the
-// offscreen platform.
+// Opening the retirement screen, with its 196 lines of bases, that of incapacity, with 96, and the payroll's,
+// beside opening the one of unemployment, and going on to a panel of bases: model, window and first painting,
+// on the offscreen platform.
 
 #include <benchmark/benchmark.h>
 
@@ -8,6 +8,7 @@
 
 #include "benefits/desempleo/desemp_frm.h"
 #include "foundations/values/almacen.h"
+#include "payroll/pantallas/nomina_frm.h"
 #include "pensions/incapacidad/inva_frm.h"
 #include "pensions/jubilacion/pension_frm.h"
 #include "toolkit/vista_formulario.h"
@@ -72,6 +73,7 @@ void Apertura_panelDeBases(benchmark::State& estado) {
 BENCHMARK(Apertura<DesempFrm>)->Unit(benchmark::kMillisecond);
 BENCHMARK(Apertura<PensionFrm>)->Unit(benchmark::kMillisecond);
 BENCHMARK(Apertura<InvaFrm>)->Unit(benchmark::kMillisecond);
+BENCHMARK(Apertura<NominaFrm>)->Unit(benchmark::kMillisecond);
 BENCHMARK(Apertura_panelDeBases)->Unit(benchmark::kMillisecond);
 
 }  // namespace
