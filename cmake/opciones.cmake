@@ -32,11 +32,20 @@ if(CCACHE AND NOT ORVEMO_TIDY)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
+# orvemo_vigila(NAME): clang-tidy reads what the target compiles. A property of the target and no variable: the headers
+# that are compiled alone are read through those who include them, once.
+function(orvemo_vigila nombre)
+    if(CLANG_TIDY)
+        set_target_properties(${nombre} PROPERTIES CXX_CLANG_TIDY "${CLANG_TIDY};--quiet")
+    endif()
+endfunction()
+
 # orvemo_biblioteca(NAME SOURCES ... LINK ...): one library of the house.
 function(orvemo_biblioteca nombre)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_library(${nombre} STATIC ${ARG_SOURCES})
     target_link_libraries(${nombre} PUBLIC orvemo_opciones ${ARG_LINK})
+    orvemo_vigila(${nombre})
     if(ORVEMO_TIDY)
         # Each header compiles alone.
         file(GLOB_RECURSE cabeceras CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)

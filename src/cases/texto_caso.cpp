@@ -135,8 +135,7 @@ std::string esperado(const Forma& forma) {
         case Naturaleza::Real:
             return forma.ancho == sizeof(float) ? "un número de precisión simple" : "un número";
         case Naturaleza::Lista:
-            return "una lista de " + TextoPlano(static_cast<double>(forma.ancho / forma.elemento->ancho)) +
-                   " elementos";
+            return "una lista de " + std::to_string(forma.ancho / forma.elemento->ancho) + " elementos";
         case Naturaleza::Conjunto:
             return "un objeto con sus campos";
     }

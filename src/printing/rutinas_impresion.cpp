@@ -266,13 +266,12 @@ void TrazaLinea(DestinoImpresion& destino, double x1, double y1, double x2, doub
 
 std::string RellenaAncho(const DestinoImpresion& destino, std::string_view texto, std::string_view relleno,
                          double ancho) {
-    const std::string recortado{Recorta(texto)};
+    std::string recortado{Recorta(texto)};
     const double paso = destino.TextWidth(relleno);
     if (paso <= 0) return recortado;  // it would never be filled
     std::string lleno = rellenado(recortado, relleno, (ancho - destino.TextWidth(recortado)) / paso - 1);
-    double lleva = destino.TextWidth(lleno);
-    if (lleva >= ancho) lleva = destino.TextWidth(lleno = recortado);
-    for (; lleva < ancho; lleva = destino.TextWidth(lleno)) lleno += relleno;
+    if (destino.TextWidth(lleno) >= ancho) lleno = recortado;
+    while (destino.TextWidth(lleno) < ancho) lleno += relleno;
     return lleno;
 }
 

@@ -96,6 +96,8 @@ VistaFormulario::VistaFormulario(Formulario& formulario, const Almacen& almacen,
 }
 
 VistaFormulario::~VistaFormulario() {
+    // The window is hidden last of all, when nothing of this is left to go with the focus.
+    disconnect(qApp, nullptr, this, nullptr);
     formulario_.ponVista(nullptr);
 }
 

@@ -23,6 +23,7 @@ constexpr Via<std::int32_t> kDias{[](std::string_view dias) { return EnteroDe(di
 
 std::vector<std::string> textosDePapeles() {
     std::vector<std::string> textos;
+    textos.reserve(kPapeles.size());
     for (const TipoBeneficiarios& papel : kPapeles) textos.emplace_back(papel.texto);
     return textos;
 }

@@ -22,7 +22,8 @@ struct FicheroTarifa {
 
     /// Bytes of a row.
     [[nodiscard]] constexpr std::size_t longitud() const {
-        return static_cast<std::size_t>(clave + kAnchoValor * columnas + kAnchoFinDeFila);
+        const int caracteres = clave + kAnchoValor * columnas + kAnchoFinDeFila;
+        return static_cast<std::size_t>(caracteres);
     }
     [[nodiscard]] constexpr bool contiene(int edad, int columna) const {
         return edad >= primeraEdad && edad <= ultimaEdad && columna >= 1 && columna <= columnas;
@@ -30,7 +31,8 @@ struct FicheroTarifa {
     /// Byte of the row of that age where the value begins.
     [[nodiscard]] constexpr std::size_t posicion(int edad, int columna) const {
         const int enFila = clave + kAnchoValor * (columna - 1);
-        return static_cast<std::size_t>(edad - primeraEdad) * longitud() + static_cast<std::size_t>(enFila);
+        const int filas = edad - primeraEdad;
+        return static_cast<std::size_t>(filas) * longitud() + static_cast<std::size_t>(enFila);
     }
 };
 

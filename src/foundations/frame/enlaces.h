@@ -106,7 +106,7 @@ class Enlaces {
 
     /// A row of fields and an array, in its order; what the array has over stays as it is.
     template <typename Miembro>
-    void agregaSerie(std::vector<Campo*> campos, Miembro miembro) {
+    void agregaSerie(const std::vector<Campo*>& campos, Miembro miembro) {
         agrega(
             [campos, miembro](Registro& r) {
                 for (std::size_t i = 0; i < campos.size(); ++i) toma(*campos[i], std::invoke(miembro, r)[i]);
@@ -116,7 +116,7 @@ class Enlaces {
             });
     }
     template <typename Miembro, typename T>
-    void agregaSerie(std::vector<Campo*> campos, Miembro miembro, const Via<T>& via) {
+    void agregaSerie(const std::vector<Campo*>& campos, Miembro miembro, const Via<T>& via) {
         agrega(
             [campos, miembro, via](Registro& r) {
                 for (std::size_t i = 0; i < campos.size(); ++i) {
