@@ -119,6 +119,7 @@ int lugarEnElCatalogo(const LineaRecibo& linea) {
 std::vector<FilaRecibo> filasDe(std::vector<LineaRecibo> lineas) {
     std::ranges::stable_sort(lineas, {}, lugarEnElCatalogo);
     std::vector<FilaRecibo> filas;
+    filas.reserve(lineas.size());
     for (const LineaRecibo& linea : lineas) filas.push_back({kXLineas, kCuerpo, linea.texto, linea.importe});
     return filas;
 }
@@ -163,7 +164,7 @@ std::string conTipo(std::string texto, double tipo, double tipoParcial) {
     return texto;
 }
 
-std::string conTipoEntreParentesis(std::string texto, double tipo) {
+std::string conTipoEntreParentesis(const std::string& texto, double tipo) {
     return tipo == 0 ? texto : texto + " (" + porcentaje(tipo) + ")";
 }
 
