@@ -21,7 +21,7 @@ ValorDeCampo valorDe(const QJsonValue& json) {
             return {json.toString().toStdString()};
         case QJsonValue::Array: {
             ValorDeCampo::Lista lista;
-            for (const QJsonValue& elemento : json.toArray()) lista.push_back(valorDe(elemento));
+            for (const auto& elemento : json.toArray()) lista.push_back(valorDe(elemento));
             return {std::move(lista)};
         }
         case QJsonValue::Object: {

@@ -40,7 +40,7 @@ bool GuardiaFoco::procesa() {
     if (procesando_ || pendiente_ == nullptr) return true;
     procesando_ = true;
     Campo& destino = *std::exchange(pendiente_, nullptr);
-    const QPointer<QWidget> tocado = tocado_;  // a box may let the panel be built anew
+    const QPointer<QWidget> tocado{tocado_.data()};  // a box may let the panel be built anew
     const bool admitido = formulario_.oculto() || formulario_.foco(destino);
     procesando_ = false;
     // The box told why while the window wasn't active: the widget doesn't hear that the focus went back.

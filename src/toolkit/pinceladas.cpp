@@ -142,7 +142,7 @@ void pintaMarcaConTexto(QPainter& pincel, const QStyleOptionButton& opcion,
     const int aire = px(kAireFoco);
     const int lado = px(kLadoMarca);
     const int renglon = opcion.fontMetrics.height();
-    QStyleOption marca = opcion;
+    QStyleOption marca{static_cast<const QStyleOption&>(opcion)};
     marca.rect = {aire, aire / 2 + qMax(0, (renglon - lado) / 2), lado, lado};
     pintaMarca(pincel, marca);
     pincel.setPen(opcion.palette.color(QPalette::WindowText));
