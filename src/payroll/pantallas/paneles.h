@@ -14,4 +14,7 @@ inline constexpr int kSalida = 7;
 inline constexpr int kAyudaConceptos = 8;
 inline constexpr int kAyudaIncidencias = 9;
 
+/// Characters that a number shows.
+inline constexpr int kAnchoNumero = 10;
+
 }  // namespace orvemo::nomina
